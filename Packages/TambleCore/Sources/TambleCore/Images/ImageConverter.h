@@ -1,0 +1,44 @@
+#pragma once
+
+#include <TambleCore/Images/ConversionError.h>
+#include <TambleCore/Images/ImageJobSettings.h>
+#include <TambleCore/Support/WorkContext.h>
+
+#include <cstddef>
+#include <filesystem>
+#include <span>
+#include <vector>
+
+namespace tamble {
+
+/// All pixel and metadata work of the image tools, one picture in one pass. The libraries behind it are loaded on
+/// first use.
+class ImageConverter {
+  public:
+    /// The bytes of an encoded image.
+    using Memory = std::vector<std::byte>;
+    /// Where an encoded image goes: a file that does not exist yet, or memory.
+    using Target = std::variant<std::filesystem::path, std::reference_wrapper<Memory>>;
+
+    /// Reads the picture at `source`, applies the settings and writes the result. Without `format` the input's own
+    /// is written. Throws ConversionError; Cancelled after a stop request. Nothing partial is left at the target.
+    void convert(const std::filesystem::path& source, const Target& target, const ImageJobSettings& settings,
+                 std::optional<ImageFormat> format, const WorkContext& context = {}) const;
+
+    /// The same work into memory.
+    Memory encodedData(const std::filesystem::path& source, const ImageJobSettings& settings,
+                       std::optional<ImageFormat> format, const WorkContext& context = {}) const;
+};
+
+/// What this machine can write.
+namespace ImageCapabilities {
+
+/// In the order of ImageFormat.
+std::vector<ImageFormat> writableFormats();
+bool canWrite(ImageFormat format);
+/// Whether the picture library writes WebP itself. It is never asked to: libwebp writes faster and exactly as told.
+bool imageIOWritesWebP();
+
+}  // namespace ImageCapabilities
+
+}  // namespace tamble

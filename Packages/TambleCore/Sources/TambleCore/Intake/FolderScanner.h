@@ -1,0 +1,33 @@
+#pragma once
+
+#include <TambleCore/Intake/ScanResult.h>
+
+#include <functional>
+#include <span>
+
+namespace tamble {
+
+/// Which files a scan takes.
+using ContentPredicate = std::function<bool(const std::optional<ContentType>&)>;
+
+struct ScanOptions {
+    bool includeSubfolders = true;
+    /// The default takes pictures that can be read.
+    ContentPredicate accepts;
+    int maxDepth = 64;
+
+    explicit ScanOptions(bool includeSubfolders);
+};
+
+/// Turns dropped files and folders into a flat, ordered list of input files and the tree of their folders.
+struct FolderScanner {
+    ScanOptions options;
+
+    /// Never fails as a whole: what cannot be read is counted. Blocks; call it off the main thread.
+    ScanResult scan(std::span<const std::filesystem::path> urls) const;
+
+  private:
+    class Builder;
+};
+
+}  // namespace tamble

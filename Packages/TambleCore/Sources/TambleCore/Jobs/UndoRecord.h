@@ -1,0 +1,52 @@
+#pragma once
+
+#include <TambleCore/Support/Json/JsonCoding.h>
+
+namespace tamble {
+
+/// A file that a job moved to the Bin.
+struct TrashedItem {
+    std::filesystem::path original;
+    std::filesystem::path inTrash;
+    friend bool operator==(const TrashedItem&, const TrashedItem&) = default;
+};
+BOOST_DESCRIBE_STRUCT(TrashedItem, (), (original, inTrash))
+
+/// A file that a job renamed.
+struct RenamedItem {
+    std::filesystem::path from;
+    std::filesystem::path to;
+    friend bool operator==(const RenamedItem&, const RenamedItem&) = default;
+};
+BOOST_DESCRIBE_STRUCT(RenamedItem, (), (from, to))
+
+/// Enough of a file to see whether it was changed since. For a folder: the sum of the sizes and the newest time over
+/// all it holds.
+struct FileFingerprint {
+    std::int64_t size = 0;
+    /// Seconds since 1970.
+    double modified = 0;
+
+    /// Empty when there is nothing at the path.
+    static std::optional<FileFingerprint> of(const std::filesystem::path& path);
+    /// Equal sizes, and times that differ by less than 0.001 seconds.
+    friend bool operator==(const FileFingerprint& a, const FileFingerprint& b);
+};
+BOOST_DESCRIBE_STRUCT(FileFingerprint, (), (size, modified))
+
+/// What a job changed on disk, and so what undo needs.
+struct UndoRecord {
+    std::vector<std::filesystem::path> createdFiles;
+    std::vector<TrashedItem> trashedItems;
+    /// By fingerprintKey() of a created file.
+    std::map<std::string, FileFingerprint> createdFingerprints;
+    std::vector<RenamedItem> renamedItems;
+
+    bool isEmpty() const { return createdFiles.empty() && trashedItems.empty() && renamedItems.empty(); }
+};
+BOOST_DESCRIBE_STRUCT(UndoRecord, (), (createdFiles, trashedItems, createdFingerprints, renamedItems))
+
+/// The path itself, or its file URL when its bytes are not UTF-8 and so cannot be a JSON key.
+std::string fingerprintKey(const std::filesystem::path& path);
+
+}  // namespace tamble

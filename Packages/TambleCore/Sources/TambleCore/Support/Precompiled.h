@@ -1,0 +1,21 @@
+#pragma once
+
+#include <fmt/format.h>
+
+#include <boost/describe.hpp>
+#include <boost/mp11.hpp>
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <span>
+#include <stop_token>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>

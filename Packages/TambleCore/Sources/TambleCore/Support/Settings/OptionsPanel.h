@@ -1,0 +1,51 @@
+#pragma once
+
+#include <TambleCore/Support/Json/Json.h>
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// What a tool lets people choose, as data: headings, choices with their texts, and the settings each choice changes.
+/// The window draws it, the command line prints it; neither knows the tools.
+namespace tamble {
+
+/// One thing that can be picked.
+struct PanelChoice {
+    std::string label;
+    std::string description;
+    /// The members that picking it sets in the settings; a null member makes an optional setting absent.
+    Json changes = Json::object();
+};
+
+enum class PanelControl {
+    cards,     ///< one of several, each with its description
+    segments,  ///< one of a few short words; the description of the chosen one below
+    toggle,    ///< on or off: the first choice's changes when on, the second's when off
+    number,    ///< a number field for `setting`, with `range`
+    note,      ///< no control, only its heading and text
+};
+
+struct PanelSection {
+    std::string heading;
+    PanelControl control = PanelControl::cards;
+    std::vector<PanelChoice> choices = {};
+    /// Shown only after the control labelled `moreLabel`.
+    std::string moreLabel = {};
+    std::vector<PanelChoice> moreChoices = {};
+    /// The one setting of a number field, and its inclusive bounds.
+    std::string setting = {};
+    std::pair<std::int64_t, std::int64_t> range = {};
+    std::string note = {};
+    /// When not empty, the section is shown only if these members stand so in the settings, and only if some input
+    /// is of this content type.
+    Json onlyWith = Json::object();
+    std::string onlyForType = {};
+};
+
+struct OptionsPanel {
+    std::vector<PanelSection> sections;
+};
+
+}  // namespace tamble
