@@ -13,8 +13,9 @@ namespace tamble {
 /// What a tool makes of its settings: one output per input, or one of all.
 using ToolWork = std::variant<std::unique_ptr<FileProcessor>, std::unique_ptr<FileCombiner>>;
 
-/// Everything that running a tool takes, without knowing its settings record: each family lists its tools as these
-/// values. Settings are the JSON form of the family's record; functions throw DecodeError for settings that are not.
+/// Everything that running a tool takes, without knowing its settings record: each family lists its tools as
+/// these values. Settings are the JSON form of the family's record; functions throw DecodeError for settings
+/// that are not.
 struct ToolDefinition {
     std::string id;
     Json defaults;
@@ -23,7 +24,8 @@ struct ToolDefinition {
     ContentPredicate accepts;
     std::function<ToolWork(const Json& settings)> makeWork;
     /// The expected size in bytes of all outputs, from a few samples; nothing when it cannot be told.
-    std::function<std::optional<std::int64_t>(std::span<const InputFile>, const Json& settings, std::stop_token)>
+    std::function<std::optional<std::int64_t>(std::span<const InputFile>, const Json& settings,
+                                              std::stop_token)>
         estimate = {};
 
     /// `settings` brought into the full form of the record: checked, and decoded and encoded once.

@@ -8,8 +8,8 @@
 
 namespace tamble {
 
-/// A uniform type: what a file is, as an identifier such as "public.jpeg", and the more general types it conforms to.
-/// Types come from one fixed table of the kinds of files the tools know.
+/// A uniform type: what a file is, as an identifier such as "public.jpeg", and the more general types it
+/// conforms to. Types come from one fixed table of the kinds of files the tools know.
 class ContentType {
   public:
     /// The type with this identifier; empty when the table has none.
