@@ -1,0 +1,43 @@
+# Fails when a source includes from a room below it in the house. Run as: cmake -DSOURCE=<repository> -P CheckLayers.cmake
+set(core ${SOURCE}/Packages/TambleCore/Sources/TambleCore)
+set(families Images Media PDF Smart Rename)
+set(trouble "")
+
+# Which rooms a room may include from, beside itself.
+set(Support_from "")
+set(Platform_from Support)
+set(Intake_from Support Platform)
+set(Jobs_from Support Platform Intake)
+foreach(family ${families})
+    set(${family}_from Support Platform Intake Jobs)
+endforeach()
+list(APPEND Smart_from Media PDF)
+set(Catalog_from Support Platform Intake Jobs ${families})
+
+foreach(room Support Platform Intake Jobs ${families} Catalog)
+    file(GLOB_RECURSE sources ${core}/${room}/*.h ${core}/${room}/*.cpp)
+    foreach(source ${sources})
+        file(STRINGS ${source} includes REGEX "^#include [<\"](TambleCore/|Tamble/|Q[A-Z])")
+        foreach(include ${includes})
+            string(REGEX REPLACE "^#include [<\"](TambleCore/)?([A-Za-z]+).*" "\\2" from "${include}")
+            if(NOT from STREQUAL room AND NOT from IN_LIST ${room}_from)
+                file(RELATIVE_PATH name ${SOURCE} ${source})
+                list(APPEND trouble "${name}: ${include}")
+            endif()
+        endforeach()
+    endforeach()
+endforeach()
+
+# The application's rooms know no window toolkit outside the window itself.
+file(GLOB_RECURSE sources ${SOURCE}/Tamble/Model/* ${SOURCE}/Tamble/CommandLine/* ${SOURCE}/Tamble/Worker/*)
+foreach(source ${sources})
+    file(STRINGS ${source} includes REGEX "^#include [<\"]Q[A-Z]")
+    if(includes)
+        list(APPEND trouble "${source}: ${includes}")
+    endif()
+endforeach()
+
+if(trouble)
+    list(JOIN trouble "\n  " text)
+    message(FATAL_ERROR "These includes run up the house:\n  ${text}")
+endif()
