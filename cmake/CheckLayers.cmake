@@ -1,6 +1,6 @@
 # Fails when a source includes from a room below it in the house. Run as: cmake -DSOURCE=<repository> -P CheckLayers.cmake
-set(core ${SOURCE}/Packages/TambleCore/Sources/TambleCore)
 cmake_minimum_required(VERSION 3.25)
+set(core ${SOURCE}/Packages/TambleCore/Sources/TambleCore)
 set(families Images Media PDF Smart Rename)
 set(trouble "")
 
