@@ -2,9 +2,9 @@
 
 #include <TambleCore/Intake/InputFile.h>
 
-#include <boost/describe.hpp>
-
 #include <vector>
+
+#include <boost/describe.hpp>
 
 namespace tamble {
 

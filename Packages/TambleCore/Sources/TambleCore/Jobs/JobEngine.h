@@ -23,14 +23,14 @@ struct JobConfiguration {
     static int defaultConcurrency();
 };
 
-/// Turns a batch of inputs into new files: processing into a private staging folder, several items at once; then
-/// saving, one by one in input order, which is never interrupted.
+/// Turns a batch of inputs into new files: processing into a private staging folder, several items at once;
+/// then saving, one by one in input order, which is never interrupted.
 struct JobEngine {
     std::shared_ptr<FileOperations> fileOps;
 
-    /// Never throws for a problem of an item or of the disk: every problem becomes an outcome. Blocks until the job
-    /// is over. A stop request during processing saves nothing; during saving it is ignored. `onProgress` may be
-    /// called from any thread, one call at a time.
+    /// Never throws for a problem of an item or of the disk: every problem becomes an outcome. Blocks until
+    /// the job is over. A stop request during processing saves nothing; during saving it is ignored.
+    /// `onProgress` may be called from any thread, one call at a time.
     JobResult run(std::span<const InputFile> files, const FileProcessor& processor,
                   const JobConfiguration& configuration, const ProgressCallback& onProgress = {},
                   std::stop_token stop = {}) const;

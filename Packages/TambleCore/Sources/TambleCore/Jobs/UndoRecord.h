@@ -20,8 +20,8 @@ struct RenamedItem {
 };
 BOOST_DESCRIBE_STRUCT(RenamedItem, (), (from, to))
 
-/// Enough of a file to see whether it was changed since. For a folder: the sum of the sizes and the newest time over
-/// all it holds.
+/// Enough of a file to see whether it was changed since. For a folder: the sum of the sizes and the newest
+/// time over all it holds.
 struct FileFingerprint {
     std::int64_t size = 0;
     /// Seconds since 1970.

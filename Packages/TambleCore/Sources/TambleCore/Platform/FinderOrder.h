@@ -8,8 +8,9 @@
 
 namespace tamble {
 
-/// The order in which people expect names: numbers in names compare by value, letter case is ignored, letters stand
-/// as in the user's language. Not for use from several threads at once; making one is cheap after the first.
+/// The order in which people expect names: numbers in names compare by value, letter case is ignored, letters
+/// stand as in the user's language. Not for use from several threads at once; making one is cheap after the
+/// first.
 class FinderOrder {
   public:
     FinderOrder();

@@ -4,8 +4,8 @@
 
 namespace tamble {
 
-/// Acts on the real file system. The Bin is the freedesktop Trash (specification 1.0): the home Bin for files on its
-/// volume, ".Trash/$uid" or ".Trash-$uid" at the top of other volumes.
+/// Acts on the real file system. The Bin is the freedesktop Trash (specification 1.0): the home Bin for files
+/// on its volume, ".Trash/$uid" or ".Trash-$uid" at the top of other volumes.
 class SystemFileOperations final : public FileOperations {
   public:
     std::filesystem::path trash(const std::filesystem::path& item) override;
