@@ -1,6 +1,7 @@
 # The picture libraries: loaded on first use, because starting them costs more than most commands take.
 pkg_check_modules(VIPS REQUIRED IMPORTED_TARGET vips-cpp)
 pkg_check_modules(WEBP REQUIRED IMPORTED_TARGET libwebp libwebpmux)
+pkg_check_modules(ZLIB REQUIRED IMPORTED_TARGET zlib)
 pkg_check_modules(TURBOJPEG REQUIRED IMPORTED_TARGET libturbojpeg)
 pkg_check_modules(EXIV2 REQUIRED IMPORTED_TARGET exiv2)
 
@@ -13,5 +14,5 @@ if(image_sources)
     target_precompile_headers(TambleImages PRIVATE Sources/TambleCore/Support/Precompiled.h)
     target_link_libraries(TambleImages
         PUBLIC TambleCore
-        PRIVATE tamble_options PkgConfig::VIPS PkgConfig::WEBP PkgConfig::TURBOJPEG PkgConfig::EXIV2)
+        PRIVATE tamble_options PkgConfig::VIPS PkgConfig::WEBP PkgConfig::TURBOJPEG PkgConfig::EXIV2 PkgConfig::ZLIB)
 endif()
