@@ -3,12 +3,12 @@
 
 #include <TambleCore/Support/Text.h>
 
-#include <CLI/CLI.hpp>
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <map>
 #include <ranges>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
 
 namespace tamble {
 namespace {
@@ -17,13 +17,14 @@ constexpr std::string_view offPrefix = "no-";
 
 const CommandOption* optionSpelled(const CommandDescription& command, std::string_view argument) {
     const auto found = std::ranges::find_if(command.options, [argument](const CommandOption& option) {
-        return argument == "--" + option.name || (option.letter != '\0' && argument == std::string{'-', option.letter});
+        return argument == "--" + option.name ||
+               (option.letter != '\0' && argument == std::string{'-', option.letter});
     });
     return found == command.options.end() ? nullptr : &*found;
 }
 
-/// The parser would take any next word for the value of an option whose value may be left out, so a switch and the
-/// "true" or "false" behind it become one word first.
+/// The parser would take any next word for the value of an option whose value may be left out, so a switch
+/// and the "true" or "false" behind it become one word first.
 std::vector<std::string> withSwitchValuesJoined(const CommandDescription& command,
                                                 std::span<const std::string> arguments) {
     std::vector<std::string> joined;
@@ -69,8 +70,9 @@ class BorrowedParser {
             app_.parse(std::move(arguments));
         } catch (const CLI::ParseError& error) {
             const CommandOption* option = optionSpelled(command_, last);
-            throw UsageError(option == nullptr ? std::string(error.what())
-                                               : fmt::format("--{} needs a value: {}.", option->name, option->value));
+            throw UsageError(option == nullptr
+                                 ? std::string(error.what())
+                                 : fmt::format("--{} needs a value: {}.", option->name, option->value));
         }
     }
 
@@ -104,7 +106,8 @@ class BorrowedParser {
         names_[added] = {option.name, option.takesValue()};
         if (option.isSwitch) {
             const std::string off = std::string(offPrefix) + option.name;
-            names_[app_.add_flag("--" + off)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)] = {off, false};
+            names_[app_.add_flag("--" + off)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)] = {off,
+                                                                                                       false};
         }
     }
 

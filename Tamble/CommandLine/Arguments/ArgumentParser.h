@@ -27,8 +27,8 @@ struct ParsedArguments {
     std::optional<std::string> value(std::string_view option) const;
 };
 
-/// Everything after the first "--" is an operand. Throws UsageError for an option that the command does not have,
-/// naming the nearest one, and for a value that is missing or not wanted.
+/// Everything after the first "--" is an operand. Throws UsageError for an option that the command does not
+/// have, naming the nearest one, and for a value that is missing or not wanted.
 ParsedArguments parseArguments(const CommandDescription& command, std::span<const std::string> arguments);
 
 }  // namespace tamble

@@ -23,7 +23,8 @@ CommandOption subfoldersOption() {
 }
 
 CommandOption listedOption() {
-    return {.name = "null", .letter = '0', .help = "Read more paths from standard input, each ended by a NUL"};
+    return {
+        .name = "null", .letter = '0', .help = "Read more paths from standard input, each ended by a NUL"};
 }
 
 std::vector<CommandDescription> buildCommands() {
@@ -44,7 +45,9 @@ std::vector<CommandDescription> buildCommands() {
          .operandCompletes = Completes::files},
         {.name = "activity",
          .summary = "List finished jobs, the newest first",
-         .options = {{.name = "clear", .help = "Forget all jobs; files stay as they are"}, jsonOption(), helpOption()}},
+         .options = {{.name = "clear", .help = "Forget all jobs; files stay as they are"},
+                     jsonOption(),
+                     helpOption()}},
         {.name = "undo",
          .operands = "[ID]",
          .summary = "Remove the new files of a job and put the originals back; the newest job without an ID",
@@ -74,14 +77,16 @@ std::span<const CommandOption> savingOptions() {
     static const std::vector<CommandOption> options{
         {.name = "save",
          .value = "next|replace|DIR",
-         .help = "Save next to each original (default), in its place (the original goes to the Bin), or into a folder",
+         .help = "Save next to each original (default), in its place (the original goes to the Bin), or into "
+                 "a folder",
          .words = {"next", "replace"},
          .completes = Completes::folders},
         {.name = "keep-structure", .help = "In a folder, keep the structure of the folders that were named"},
         {.name = "date-folder", .help = "In a folder, save into a folder named by today's date"},
         {.name = "clash",
          .value = "addNumber|skip|replace",
-         .help = "When a name is taken: give the new file a number (default), skip it, or send the existing file to "
+         .help = "When a name is taken: give the new file a number (default), skip it, or send the existing "
+                 "file to "
                  "the Bin",
          .words = {"addNumber", "skip", "replace"}},
     };

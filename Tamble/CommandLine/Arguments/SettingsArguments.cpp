@@ -3,11 +3,11 @@
 
 #include <TambleCore/Support/Wording.h>
 
-#include <fmt/format.h>
-
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+
+#include <fmt/format.h>
 
 namespace tamble {
 namespace {
@@ -42,8 +42,9 @@ CommandOption optionOf(const SettingType& type, std::string name, std::string he
 
 Json parsedValue(const SettingField& field, const ParsedArguments::Given& given) {
     if (given.option == field.flag()) {
-        return settingValue(field.type, field.type.kind == SettingKind::boolean && given.value.empty() ? "true"
-                                                                                                       : given.value);
+        return settingValue(field.type, field.type.kind == SettingKind::boolean && given.value.empty()
+                                            ? "true"
+                                            : given.value);
     }
     if (field.hint.shortCase.empty()) return settingValue(field.type, given.value);
     Json value = Json::object();
@@ -55,11 +56,13 @@ Json parsedValue(const SettingField& field, const ParsedArguments::Given& given)
 std::optional<Json> changesOf(const SettingsSchema& schema, const ParsedArguments::Given& given) {
     for (const auto& field : schema.fields) {
         Json changes = Json::object();
-        if (field.type.kind == SettingKind::boolean && given.option == std::string(offPrefix) + field.flag()) {
+        if (field.type.kind == SettingKind::boolean &&
+            given.option == std::string(offPrefix) + field.flag()) {
             changes[field.name] = false;
             return changes;
         }
-        if (given.option != field.flag() && (field.hint.shortFlag.empty() || given.option != field.hint.shortFlag)) {
+        if (given.option != field.flag() &&
+            (field.hint.shortFlag.empty() || given.option != field.hint.shortFlag)) {
             continue;
         }
         changes[field.name] = parsedValue(field, given);
@@ -115,10 +118,11 @@ std::vector<CommandOption> settingOptions(const SettingsSchema& schema) {
         }
         const std::string shortFlag(field.hint.shortFlag);
         options.push_back(optionOf(shortType(field), shortFlag, help));
-        options.push_back(optionOf(field.type, field.flag(),
-                                   field.hint.shortCase.empty()
-                                       ? fmt::format("The same as --{}", shortFlag)
-                                       : fmt::format("The long form of --{}, with all its cases", shortFlag)));
+        options.push_back(
+            optionOf(field.type, field.flag(),
+                     field.hint.shortCase.empty()
+                         ? fmt::format("The same as --{}", shortFlag)
+                         : fmt::format("The long form of --{}, with all its cases", shortFlag)));
     }
     options.push_back({.name = "settings",
                        .value = "JSON|@FILE",
@@ -138,7 +142,8 @@ Json settingsFrom(const ToolDefinition& tool, const ParsedArguments& arguments) 
     }
     for (const auto& given : arguments.options) {
         try {
-            if (const auto changes = changesOf(tool.schema, given)) settings = tool.schema.merged(settings, *changes);
+            if (const auto changes = changesOf(tool.schema, given))
+                settings = tool.schema.merged(settings, *changes);
         } catch (const SettingError& error) {
             throw UsageError(fmt::format("--{}: {}", given.option, error.what()));
         }

@@ -4,7 +4,8 @@
 
 namespace tamble {
 
-/// The program was asked for something it does not understand; what() is a sentence that says what would be right.
+/// The program was asked for something it does not understand; what() is a sentence that says what would be
+/// right.
 class UsageError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;

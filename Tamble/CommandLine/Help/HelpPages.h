@@ -14,6 +14,9 @@ HelpPage toolPage(const ToolInfo& info, const ToolDefinition& tool);
 /// The texts of a tool's options panel, each choice with the options that choose it.
 std::vector<HelpSection> panelSections(const ToolDefinition& tool);
 
+/// Every setting of a tool with its default.
+HelpSection settingsSection(const ToolDefinition& tool);
+
 /// Facts that the overview and the manual page share.
 HelpSection exitStatusSection();
 HelpSection environmentSection();

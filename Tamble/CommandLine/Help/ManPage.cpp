@@ -18,11 +18,18 @@ std::string escaped(std::string_view text) {
         if (atLineStart && (c == '.' || c == '\'')) result += "\\&";
         atLineStart = c == '\n';
         switch (c) {
-            case '\\': result += "\\e"; break;
+            case '\\':
+                result += "\\e";
+                break;
             // A plain hyphen would be set as a typographic one, which cannot be copied into a shell.
-            case '-': result += "\\-"; break;
-            case '\n': result += "\n.br\n"; break;
-            default: result += c;
+            case '-':
+                result += "\\-";
+                break;
+            case '\n':
+                result += "\n.br\n";
+                break;
+            default:
+                result += c;
         }
     }
     return result;
@@ -52,7 +59,8 @@ std::string chapter(const HelpSection& section) {
 }
 
 std::string commandText(const CommandDescription& command) {
-    std::string text = entryText({fmt::format("tamble {} {}", command.name, command.operands), command.summary + "."});
+    std::string text =
+        entryText({fmt::format("tamble {} {}", command.name, command.operands), command.summary + "."});
     if (command.options.size() <= 1) return text;
     text += ".RS\n";
     for (const auto& option : command.options) {
@@ -71,10 +79,9 @@ std::string toolText(const ToolInfo& info) {
     return text;
 }
 
-std::string settingsText(const ToolInfo& info, const HelpPage& page) {
-    const auto found = std::ranges::find(page.sections, "All settings", &HelpSection::heading);
+std::string settingsText(const ToolInfo& info) {
     return fmt::format(".PP\n.I All settings of {}\n{}", escaped(info.id),
-                       found == page.sections.end() ? "" : body(*found));
+                       body(settingsSection(*ToolCatalog::definition(info.id))));
 }
 
 }  // namespace
@@ -91,11 +98,12 @@ std::string manPage() {
     page += body(optionSection({}, savingOptions())) + body(optionSection({}, runningOptions()));
     page += ".SH TOOLS\n";
     for (const ToolInfo& info : ToolCatalog::all()) {
-        const ToolDefinition* tool = ToolCatalog::definition(info.id);
-        if (tool != nullptr) page += toolText(info) + settingsText(info, toolPage(info, *tool));
+        if (ToolCatalog::definition(info.id) != nullptr) page += toolText(info) + settingsText(info);
     }
     page += chapter(exitStatusSection()) + chapter(environmentSection()) + chapter(examplesSection());
-    page += ".SH FILES\n.TP\n.I ~/.local/share/tamble/activity.json\nThe finished jobs, for\n.BR \"tamble undo\" .\n";
+    page +=
+        ".SH FILES\n.TP\n.I ~/.local/share/tamble/activity.json\nThe finished jobs, for\n.BR \"tamble undo\" "
+        ".\n";
     return page;
 }
 

@@ -15,7 +15,8 @@ std::vector<HelpSection> familySections() {
     for (const ToolInfo& tool : ToolCatalog::all()) {
         if (!ToolCatalog::unavailableReason(tool.id).empty()) continue;
         const std::string_view family = title(tool.category);
-        if (sections.empty() || sections.back().heading != family) sections.push_back({.heading = std::string(family)});
+        if (sections.empty() || sections.back().heading != family)
+            sections.push_back({.heading = std::string(family)});
         sections.back().entries.push_back(
             {tool.id, fmt::format("{}: {}", localized(tool.title), localized(tool.subtitle))});
     }
@@ -27,14 +28,16 @@ HelpSection commandSection() {
     for (const auto& command : commands()) {
         const bool hasOperands = !command.operands.empty();
         section.entries.push_back(
-            {hasOperands ? fmt::format("{} {}", command.name, command.operands) : command.name, command.summary});
+            {hasOperands ? fmt::format("{} {}", command.name, command.operands) : command.name,
+             command.summary});
     }
     return section;
 }
 
 std::string missingTools() {
-    const auto missing = std::ranges::count_if(
-        ToolCatalog::all(), [](const ToolInfo& tool) { return !ToolCatalog::unavailableReason(tool.id).empty(); });
+    const auto missing = std::ranges::count_if(ToolCatalog::all(), [](const ToolInfo& tool) {
+        return !ToolCatalog::unavailableReason(tool.id).empty();
+    });
     return missing == 0 ? std::string()
                         : fmt::format("“tamble tools” lists {} that can't run here yet.",
                                       countText(missing, "more tool", "more tools"));
@@ -43,8 +46,9 @@ std::string missingTools() {
 }  // namespace
 
 HelpPage overviewPage() {
-    HelpPage page{.summary = "Tamble has every everyday file tool in one place. New files are saved next to your "
-                             "originals, nothing leaves this computer, and every job can be undone.",
+    HelpPage page{.summary =
+                      "Tamble has every everyday file tool in one place. New files are saved next to your "
+                      "originals, nothing leaves this computer, and every job can be undone.",
                   .usage = {"tamble TOOL PATH… [options]", "tamble TOOL --help", "tamble COMMAND"},
                   .sections = familySections()};
     if (!page.sections.empty()) page.sections.back().note = missingTools();
@@ -59,8 +63,8 @@ HelpPage overviewPage() {
 
 HelpPage commandPage(const CommandDescription& command) {
     return {.summary = command.summary + ".",
-            .usage = {fmt::format("tamble {}{}{} [options]", command.name, command.operands.empty() ? "" : " ",
-                                  command.operands)},
+            .usage = {fmt::format("tamble {}{}{} [options]", command.name,
+                                  command.operands.empty() ? "" : " ", command.operands)},
             .sections = {optionSection("Options", command.options)}};
 }
 
@@ -73,10 +77,11 @@ HelpSection exitStatusSection() {
 }
 
 HelpSection environmentSection() {
-    return {.heading = "Environment",
-            .entries = {{"NO_COLOR", "When set, nothing is coloured."},
-                        {"COLUMNS", "The width of help texts where there is no terminal."},
-                        {"TAMBLE_LOG", "When 1, the log goes to standard error instead of the system journal."}}};
+    return {
+        .heading = "Environment",
+        .entries = {{"NO_COLOR", "When set, nothing is coloured."},
+                    {"COLUMNS", "The width of help texts where there is no terminal."},
+                    {"TAMBLE_LOG", "When 1, the log goes to standard error instead of the system journal."}}};
 }
 
 HelpSection examplesSection() {

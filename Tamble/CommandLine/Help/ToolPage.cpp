@@ -30,7 +30,8 @@ HelpEntry numberEntry(const ToolDefinition& tool, const PanelSection& section) {
     const SettingField* field = tool.schema.fieldNamed(section.setting);
     const std::string label = section.choices.empty() ? section.heading : section.choices.front().label;
     std::string flag = section.setting;
-    if (field != nullptr) flag = field->hint.shortFlag.empty() ? field->flag() : std::string(field->hint.shortFlag);
+    if (field != nullptr)
+        flag = field->hint.shortFlag.empty() ? field->flag() : std::string(field->hint.shortFlag);
     return {fmt::format("--{} NUMBER", flag),
             fmt::format("{}, {} to {}", localized(label), section.range.first, section.range.second)};
 }
@@ -38,8 +39,11 @@ HelpEntry numberEntry(const ToolDefinition& tool, const PanelSection& section) {
 HelpSection panelSection(const ToolDefinition& tool, const PanelSection& section) {
     HelpSection shown{.heading = localized(section.heading)};
     switch (section.control) {
-        case PanelControl::number: shown.entries.push_back(numberEntry(tool, section)); break;
-        case PanelControl::note: break;
+        case PanelControl::number:
+            shown.entries.push_back(numberEntry(tool, section));
+            break;
+        case PanelControl::note:
+            break;
         case PanelControl::cards:
         case PanelControl::segments:
         case PanelControl::toggle:
@@ -66,17 +70,6 @@ std::string defaultText(const ToolDefinition& tool, const CommandOption& option)
     return {};
 }
 
-HelpSection settingsSection(const ToolDefinition& tool) {
-    HelpSection section{.heading = "All settings"};
-    for (const auto& option : settingOptions(tool.schema)) {
-        const std::string byDefault = defaultText(tool, option);
-        const std::string usage = option.isSwitch ? fmt::format("--[no-]{}", option.name) : option.usage();
-        section.entries.push_back(
-            {usage, byDefault.empty() ? option.help : fmt::format("{} (default: {})", option.help, byDefault)});
-    }
-    return section;
-}
-
 }  // namespace
 
 std::vector<HelpSection> panelSections(const ToolDefinition& tool) {
@@ -93,6 +86,18 @@ std::vector<HelpSection> panelSections(const ToolDefinition& tool) {
         }
     }
     return sections;
+}
+
+HelpSection settingsSection(const ToolDefinition& tool) {
+    HelpSection section{.heading = "All settings"};
+    for (const auto& option : settingOptions(tool.schema)) {
+        const std::string byDefault = defaultText(tool, option);
+        const std::string usage = option.isSwitch ? fmt::format("--[no-]{}", option.name) : option.usage();
+        section.entries.push_back({usage, byDefault.empty()
+                                              ? option.help
+                                              : fmt::format("{} (default: {})", option.help, byDefault)});
+    }
+    return section;
 }
 
 HelpPage toolPage(const ToolInfo& info, const ToolDefinition& tool) {

@@ -1,9 +1,9 @@
 #include <Tamble/CommandLine/Text/Amounts.h>
 
-#include <fmt/format.h>
-
 #include <array>
 #include <cmath>
+
+#include <fmt/format.h>
 
 namespace tamble {
 namespace {
@@ -46,7 +46,8 @@ std::string durationText(double seconds) {
 
 std::string changeText(std::int64_t bytesBefore, std::int64_t bytesAfter) {
     if (bytesBefore <= 0 || bytesBefore == bytesAfter) return "the same size";
-    const double change = 100.0 * static_cast<double>(bytesAfter - bytesBefore) / static_cast<double>(bytesBefore);
+    const double change =
+        100.0 * static_cast<double>(bytesAfter - bytesBefore) / static_cast<double>(bytesBefore);
     const std::string_view direction = change < 0 ? "smaller" : "larger";
     const double percent = std::abs(change);
     if (percent < 1) return fmt::format("less than 1% {}", direction);

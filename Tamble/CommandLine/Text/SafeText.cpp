@@ -2,12 +2,12 @@
 
 #include <TambleCore/Support/Text.h>
 
+#include <cstdint>
+#include <vector>
+
 #include <fmt/format.h>
 #include <unicode/uchar.h>
 #include <unicode/utf8.h>
-
-#include <cstdint>
-#include <vector>
 
 namespace tamble {
 namespace {
@@ -25,7 +25,8 @@ std::vector<Character> characters(std::string_view text) {
         const std::int32_t begin = next;
         UChar32 code = 0;
         U8_NEXT(bytes, next, length, code);
-        result.push_back({code, text.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(next - begin))});
+        result.push_back(
+            {code, text.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(next - begin))});
     }
     return result;
 }
@@ -34,8 +35,10 @@ bool steersTerminal(UChar32 code) {
     switch (u_charType(code)) {
         case U_CONTROL_CHAR:
         case U_LINE_SEPARATOR:
-        case U_PARAGRAPH_SEPARATOR: return true;
-        default: break;
+        case U_PARAGRAPH_SEPARATOR:
+            return true;
+        default:
+            break;
     }
     // Marks, embeddings, overrides and isolates of text direction would reorder what stands around them.
     return u_hasBinaryProperty(code, UCHAR_BIDI_CONTROL) != 0;
@@ -43,10 +46,14 @@ bool steersTerminal(UChar32 code) {
 
 std::string writtenOut(UChar32 code) {
     switch (code) {
-        case '\n': return "\\n";
-        case '\r': return "\\r";
-        case '\t': return "\\t";
-        default: return fmt::format("\\u{{{:X}}}", static_cast<std::uint32_t>(code));
+        case '\n':
+            return "\\n";
+        case '\r':
+            return "\\r";
+        case '\t':
+            return "\\t";
+        default:
+            return fmt::format("\\u{{{:X}}}", static_cast<std::uint32_t>(code));
     }
 }
 
@@ -57,8 +64,10 @@ std::size_t cells(UChar32 code) {
     switch (u_charType(code)) {
         case U_NON_SPACING_MARK:
         case U_ENCLOSING_MARK:
-        case U_FORMAT_CHAR: return 0;
-        default: break;
+        case U_FORMAT_CHAR:
+            return 0;
+        default:
+            break;
     }
     const auto width = u_getIntPropertyValue(code, UCHAR_EAST_ASIAN_WIDTH);
     return width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;

@@ -1,13 +1,12 @@
 #include <Tamble/CommandLine/Text/Terminal.h>
 
-#include <fmt/format.h>
-
-#include <sys/ioctl.h>
-#include <unistd.h>
-
 #include <charconv>
 #include <cstdio>
 #include <cstdlib>
+
+#include <fmt/format.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 namespace tamble {
 namespace {
