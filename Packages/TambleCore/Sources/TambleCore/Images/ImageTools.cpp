@@ -8,22 +8,17 @@ namespace tamble {
 namespace {
 
 ToolDefinition definition(ImageTool tool) {
-    return {
-        .id = "image." + std::string(caseName(tool)),
-        .defaults = encodeJson(ImageJobSettings::defaults(tool)),
-        .schema = imageSettingsSchema(),
-        .panel = imagePanel(tool),
-        .accepts = FileTypes::isReadableImage,
-        .makeWork = [](const Json& settings) -> ToolWork {
-            return std::make_unique<ImageProcessor>(decodeJson<ImageJobSettings>(settings));
-        },
-        .estimate =
-            [](std::span<const InputFile> files, const Json& settings, std::stop_token stop) {
-                return SizeEstimator::estimateImages(files, decodeJson<ImageJobSettings>(settings),
-                                                     SizeEstimator::defaultSampleCount, std::move(stop));
-            },
-        .normalized = [](const Json& settings) { return encodeJson(decodeJson<ImageJobSettings>(settings)); },
+    auto definition = makeToolDefinition(
+        "image." + std::string(caseName(tool)), ImageJobSettings::defaults(tool),
+        [](const ImageJobSettings& settings) { return std::make_unique<ImageProcessor>(settings); });
+    definition.schema = imageSettingsSchema();
+    definition.panel = imagePanel(tool);
+    definition.accepts = FileTypes::isReadableImage;
+    definition.estimate = [](std::span<const InputFile> files, const Json& settings, std::stop_token stop) {
+        return SizeEstimator::estimateImages(files, decodeJson<ImageJobSettings>(settings),
+                                             SizeEstimator::defaultSampleCount, std::move(stop));
     };
+    return definition;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <TambleCore/Intake/FolderScanner.h>
 #include <TambleCore/Jobs/FileProcessor.h>
+#include <TambleCore/Support/Json/JsonCoding.h>
 #include <TambleCore/Support/Settings/OptionsPanel.h>
 #include <TambleCore/Support/Settings/SettingsSchema.h>
 
@@ -28,8 +29,20 @@ struct ToolDefinition {
                                               std::stop_token)>
         estimate = {};
 
-    /// `settings` brought into the full form of the record: checked, and decoded and encoded once.
+    /// `settings` brought into the full form of the record: decoded and encoded once.
     std::function<Json(const Json& settings)> normalized;
 };
+
+/// The definition of a tool whose settings are the described record `Settings`, with what only the tool
+/// knows: how its work is made from them. The caller fills in the rest.
+template <DescribedRecord Settings, typename Make>
+ToolDefinition makeToolDefinition(std::string id, const Settings& defaults, Make make) {
+    return {
+        .id = std::move(id),
+        .defaults = encodeJson(defaults),
+        .schema = settingsSchema<Settings>({}),
+        .makeWork = [make](const Json& settings) -> ToolWork { return make(decodeJson<Settings>(settings)); },
+        .normalized = [](const Json& settings) { return encodeJson(decodeJson<Settings>(settings)); }};
+}
 
 }  // namespace tamble
