@@ -21,7 +21,9 @@ class Saving : public testing::Test {
                       ClashPolicy policy = ClashPolicy::addNumber) const {
         return run(files, {.location = location::ReplaceOriginals{}, .clashPolicy = policy});
     }
-    InputFile file(const std::string& name) const { return looseFile(folder.write(name, "old " + name)); }
+    InputFile file(const std::string& name) const {
+        return looseFile(folder.write(name, fmt::format("old {}", name)));
+    }
     std::string names() const { return namesIn(folder.files()); }
     UndoReport undo(const JobResult& result) const {
         SystemFileOperations real;
@@ -250,19 +252,20 @@ class TestJournal final : public JobJournal {
     void willSave(const PlannedSave& save) override {
         if (refuses) throw TestFileOperations::fault(std::errc::no_space_on_device);
         EXPECT_TRUE(std::filesystem::exists(save.staged));
-        say("plan " + save.placement.target.filename().native());
+        say("plan", save.placement.target);
     }
     void willBeginSaving() override { say("begin"); }
-    void didCreateFolder(const path& made) override { say("folder " + made.filename().native()); }
-    void didTrash(const TrashedItem& item) override { say("trash " + item.original.filename().native()); }
-    void didPutBack(const TrashedItem& item) override { say("back " + item.original.filename().native()); }
-    void didCreate(const path& output, const FileFingerprint&) override {
-        say("create " + output.filename().native());
-    }
+    void didCreateFolder(const path& made) override { say("folder", made); }
+    void didTrash(const TrashedItem& item) override { say("trash", item.original); }
+    void didPutBack(const TrashedItem& item) override { say("back", item.original); }
+    void didCreate(const path& output, const FileFingerprint&) override { say("create", output); }
     void didFinish() override { say("end"); }
 
   private:
-    void say(const std::string& text) { told += (told.empty() ? "" : ", ") + text; }
+    void say(const char* what, const path& item = {}) {
+        told += fmt::format("{}{}{}{}", told.empty() ? "" : ", ", what, item.empty() ? "" : " ",
+                            item.filename().native());
+    }
 };
 
 TEST_F(Saving, TheJournalHearsThePlanFirst) {

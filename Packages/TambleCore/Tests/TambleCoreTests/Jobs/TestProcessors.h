@@ -4,6 +4,7 @@
 #include <TambleCore/Jobs/JobEngine.h>
 #include <TambleCore/Jobs/OutputPlanner.h>
 #include <TambleCore/Platform/SystemFileOperations.h>
+#include <TambleCore/Support/PathKey.h>
 
 #include <functional>
 
@@ -105,16 +106,17 @@ inline InputFile looseFile(const std::filesystem::path& path) {
 /// "failed code".
 inline std::string brief(const ItemOutcome& itemOutcome) {
     if (const auto* done = std::get_if<outcome::Done>(&itemOutcome)) {
-        std::string name = done->value.filename().native();
-        if (name.empty()) name = done->value.parent_path().filename().native() + "/";
-        return "done " + name + (done->note ? " " + std::string(caseName(*done->note)) : "");
+        const bool isFolder = namesFolder(done->value);
+        const std::filesystem::path place = isFolder ? done->value.parent_path() : done->value;
+        return fmt::format("done {}{}{}{}", place.filename().native(), isFolder ? "/" : "",
+                           done->note ? " " : "", done->note ? caseName(*done->note) : "");
     }
     if (const auto* skipped = std::get_if<outcome::Skipped>(&itemOutcome)) {
-        return "skipped " +
-               std::visit([](const auto& reason) { return std::string(reason.caseName); }, skipped->value);
+        return fmt::format("skipped {}",
+                           std::visit([](const auto& reason) { return reason.caseName; }, skipped->value));
     }
     if (const auto* failed = std::get_if<outcome::Failed>(&itemOutcome)) {
-        return std::string(caseName(failed->value.stage)) + " failed " + failed->value.code;
+        return fmt::format("{} failed {}", caseName(failed->value.stage), failed->value.code);
     }
     return "cancelled";
 }
