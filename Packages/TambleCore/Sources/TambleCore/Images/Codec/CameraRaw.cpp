@@ -30,7 +30,8 @@ DevelopedRaw developed(ByteView file, std::optional<int> maxPixelSize, const Wor
     // Tens of kilobytes of state: too much for a thread's stack.
     const auto raw = std::make_unique<LibRaw>();
     raw->set_progress_handler(reportOrStop, const_cast<WorkContext*>(&context));
-    check(raw->open_buffer(const_cast<std::byte*>(file.data()), file.size()), ConversionError::Case::unreadable, context);
+    check(raw->open_buffer(const_cast<std::byte*>(file.data()), file.size()),
+          ConversionError::Case::unreadable, context);
     const auto& sizes = raw->imgdata.sizes;
     refuseOversized(sizes.raw_width, sizes.raw_height);
     refuseOversized(sizes.iwidth, sizes.iheight);

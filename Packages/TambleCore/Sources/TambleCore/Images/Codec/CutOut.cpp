@@ -29,8 +29,7 @@ vips::VImage cutOut(const vips::VImage& picture, const WorkContext& context) {
     if (!mask) throw ConversionError(ConversionError::Case::noSubjectFound);
     if (mask->size() != size / 3)
         throw ConversionError(ConversionError::Case::backgroundRemovalFailed, "Mask size");
-    vips::VImage alpha =
-        pictureOf(*mask, plain.width(), plain.height(), 1);
+    vips::VImage alpha = pictureOf(*mask, plain.width(), plain.height(), 1);
     // Alpha goes as deep as the colours: 255 · 257 is 65535.
     if (source.format() == VIPS_FORMAT_USHORT) alpha = (alpha * 257).cast(VIPS_FORMAT_USHORT);
     if (!source.has_alpha()) return source.bandjoin(alpha);
