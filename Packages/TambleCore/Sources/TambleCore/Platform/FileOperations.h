@@ -20,6 +20,8 @@ class FileOperations {
     virtual void remove(const std::filesystem::path& item) = 0;
     /// Creates the folder and those above it that are missing; one that exists already is no error.
     virtual void createDirectory(const std::filesystem::path& folder) = 0;
+    /// Removes a folder that holds nothing (the error is otherwise std::errc::directory_not_empty).
+    virtual void removeEmptyDirectory(const std::filesystem::path& folder) = 0;
 
     /// Whether an error of trash() means that the volume has no Bin.
     virtual bool isNoBinError(const std::error_code& error) const = 0;

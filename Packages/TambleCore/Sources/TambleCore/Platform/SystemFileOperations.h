@@ -12,6 +12,7 @@ class SystemFileOperations final : public FileOperations {
     void move(const std::filesystem::path& from, const std::filesystem::path& to) override;
     void remove(const std::filesystem::path& item) override;
     void createDirectory(const std::filesystem::path& folder) override;
+    void removeEmptyDirectory(const std::filesystem::path& folder) override;
     bool isNoBinError(const std::error_code& error) const override;
 };
 
