@@ -45,7 +45,9 @@ void TraceFinder::add(std::string trace) {
 }
 
 void TraceFinder::afterTheEnd(ByteView file, std::size_t end) {
-    if (file.size() > end) add("data after the picture's end");
+    // Padding tells nothing.
+    const ByteView rest = file.subspan(std::min(end, file.size()));
+    if (std::ranges::any_of(rest, [](std::byte b) { return b != std::byte{0}; })) add("data after the picture's end");
 }
 
 void TraceFinder::properties(ByteView text) {
