@@ -1,6 +1,6 @@
 #pragma once
 
+#include <TambleCore/Support/Precompiled.h>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <TambleCore/Support/Precompiled.h>

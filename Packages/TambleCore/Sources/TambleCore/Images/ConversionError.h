@@ -21,7 +21,8 @@ class ConversionError : public Failure {
         backgroundRemovalFailed,
     };
     BOOST_DESCRIBE_NESTED_ENUM(Case, cannotWrite, unreadable, cannotDecode, encodeFailed, tooLargeForWebP,
-                               animatedNotSupported, multiPageNotSupported, noSubjectFound, backgroundRemovalFailed)
+                               animatedNotSupported, multiPageNotSupported, noSubjectFound,
+                               backgroundRemovalFailed)
 
     /// `detail` is the format's display name for cannotWrite, else what the library said, for the log.
     explicit ConversionError(Case which, std::string detail = {});

@@ -8,7 +8,8 @@ namespace tamble {
 const ImageEngine& imageEngine() {
     static const ImageEngine* const engine = [] {
         try {
-            return reinterpret_cast<ImageEngineFunction>(moduleSymbol("libTambleImages.so", imageEngineSymbol))();
+            return reinterpret_cast<ImageEngineFunction>(
+                moduleSymbol("libTambleImages.so", imageEngineSymbol))();
         } catch (const std::runtime_error& error) {
             throw ConversionError(ConversionError::Case::cannotDecode, error.what());
         }

@@ -11,8 +11,8 @@
 
 namespace tamble {
 
-/// All pixel and metadata work of the image tools, one picture in one pass. The libraries behind it are loaded on
-/// first use.
+/// All pixel and metadata work of the image tools, one picture in one pass. The libraries behind it are
+/// loaded on first use.
 class ImageConverter {
   public:
     /// The bytes of an encoded image.
@@ -20,8 +20,9 @@ class ImageConverter {
     /// Where an encoded image goes: a file that does not exist yet, or memory.
     using Target = std::variant<std::filesystem::path, std::reference_wrapper<Memory>>;
 
-    /// Reads the picture at `source`, applies the settings and writes the result. Without `format` the input's own
-    /// is written. Throws ConversionError; Cancelled after a stop request. Nothing partial is left at the target.
+    /// Reads the picture at `source`, applies the settings and writes the result. Without `format` the
+    /// input's own is written. Throws ConversionError; Cancelled after a stop request. Nothing partial is
+    /// left at the target.
     void convert(const std::filesystem::path& source, const Target& target, const ImageJobSettings& settings,
                  std::optional<ImageFormat> format, const WorkContext& context = {}) const;
 
@@ -36,7 +37,8 @@ namespace ImageCapabilities {
 /// In the order of ImageFormat.
 std::vector<ImageFormat> writableFormats();
 bool canWrite(ImageFormat format);
-/// Whether the picture library writes WebP itself. It is never asked to: libwebp writes faster and exactly as told.
+/// Whether the picture library writes WebP itself. It is never asked to: libwebp writes faster and exactly as
+/// told.
 bool imageIOWritesWebP();
 
 }  // namespace ImageCapabilities

@@ -4,7 +4,8 @@
 
 namespace tamble {
 
-/// What the image module offers the rest of the program: the seam behind which the picture libraries are loaded.
+/// What the image module offers the rest of the program: the seam behind which the picture libraries are
+/// loaded.
 class ImageEngine {
   public:
     virtual ~ImageEngine() = default;
@@ -15,8 +16,8 @@ class ImageEngine {
     virtual bool imageIOWritesWebP() const = 0;
 };
 
-/// The engine of the image module, which is loaded by the first call and stays. Throws ConversionError::cannotDecode
-/// when the module cannot be loaded.
+/// The engine of the image module, which is loaded by the first call and stays. Throws
+/// ConversionError::cannotDecode when the module cannot be loaded.
 const ImageEngine& imageEngine();
 
 /// The name under which the module exports the function that answers its engine.

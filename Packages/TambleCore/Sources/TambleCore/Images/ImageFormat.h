@@ -2,10 +2,10 @@
 
 #include <TambleCore/Platform/ContentType.h>
 
-#include <boost/describe.hpp>
-
 #include <optional>
 #include <string_view>
+
+#include <boost/describe.hpp>
 
 namespace tamble {
 

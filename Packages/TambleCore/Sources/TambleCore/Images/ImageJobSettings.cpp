@@ -34,8 +34,12 @@ ImageJobSettings ImageJobSettings::defaults(ImageTool tool) {
             settings.output = image_output::Convert{ImageFormat::webp};
             settings.skipIfAlreadyInFormat = true;
             break;
-        case ImageTool::compress: settings.skipIfNotSmaller = true; break;
-        case ImageTool::resize: settings.maxPixelSize = 1920; break;
+        case ImageTool::compress:
+            settings.skipIfNotSmaller = true;
+            break;
+        case ImageTool::resize:
+            settings.maxPixelSize = 1920;
+            break;
         case ImageTool::rotate:
             settings.rotation = Rotation::right;
             settings.quality = Quality::best;
@@ -55,9 +59,12 @@ ImageJobSettings ImageJobSettings::defaults(ImageTool tool) {
 
 double compressionFactor(ImageJobSettings::Quality quality) {
     switch (quality) {
-        case ImageJobSettings::Quality::smaller: return 0.6;
-        case ImageJobSettings::Quality::balanced: return 0.8;
-        case ImageJobSettings::Quality::best: break;
+        case ImageJobSettings::Quality::smaller:
+            return 0.6;
+        case ImageJobSettings::Quality::balanced:
+            return 0.8;
+        case ImageJobSettings::Quality::best:
+            break;
     }
     return 0.94;
 }

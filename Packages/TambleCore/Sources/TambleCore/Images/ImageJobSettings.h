@@ -54,8 +54,8 @@ struct ImageJobSettings {
     static ImageJobSettings defaults(ImageTool tool);
 };
 BOOST_DESCRIBE_STRUCT(ImageJobSettings, (),
-                      (output, quality, maxPixelSize, rotation, removeLocation, removeAllMetadata, removeBackground,
-                       skipIfAlreadyInFormat, preferLosslessMetadataEdit, skipIfNotSmaller))
+                      (output, quality, maxPixelSize, rotation, removeLocation, removeAllMetadata,
+                       removeBackground, skipIfAlreadyInFormat, preferLosslessMetadataEdit, skipIfNotSmaller))
 
 /// The lossy encoders' compression factor, 0…1.
 double compressionFactor(ImageJobSettings::Quality quality);

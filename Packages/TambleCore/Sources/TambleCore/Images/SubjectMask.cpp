@@ -7,7 +7,8 @@ namespace tamble {
 const SubjectMask& subjectMask() {
     static const SubjectMask* const engine = [] {
         try {
-            return reinterpret_cast<SubjectMaskFunction>(moduleSymbol("libTambleSubject.so", subjectMaskSymbol))();
+            return reinterpret_cast<SubjectMaskFunction>(
+                moduleSymbol("libTambleSubject.so", subjectMaskSymbol))();
         } catch (const std::runtime_error& error) {
             throw ConversionError(ConversionError::Case::backgroundRemovalFailed, error.what());
         }

@@ -15,7 +15,8 @@ struct InputFile {
     std::filesystem::path url;
     /// The dropped folder the file was found in; for a loose file, its own folder.
     std::filesystem::path root;
-    /// The path of the file's folder below `root`, components joined with "/"; empty for files directly in it.
+    /// The path of the file's folder below `root`, components joined with "/"; empty for files directly in
+    /// it.
     std::string relativeFolder;
     std::int64_t byteSize = 0;
     std::optional<ContentType> contentType = {};

@@ -2,9 +2,9 @@
 
 #include <TambleCore/Intake/InputFile.h>
 
-#include <boost/describe.hpp>
-
 #include <span>
+
+#include <boost/describe.hpp>
 
 namespace tamble {
 

@@ -19,13 +19,15 @@ class FileProcessor {
     virtual std::string outputName(const InputFile& file) const = 0;
     /// Asked before any work; an answer leaves the item alone.
     virtual std::optional<SkipReason> skipReason(const InputFile& file) const = 0;
-    /// Writes exactly one file (or folder) at `destination`, which does not exist yet. Throws ProcessorSkip to leave
-    /// the item alone, Cancelled after a stop request, and Failure (or any other exception) to fail it.
+    /// Writes exactly one file (or folder) at `destination`, which does not exist yet. Throws ProcessorSkip
+    /// to leave the item alone, Cancelled after a stop request, and Failure (or any other exception) to fail
+    /// it.
     virtual void process(const InputFile& file, const std::filesystem::path& destination,
                          const WorkContext& context) const = 0;
     /// A tool that answers false never takes the place of originals.
     virtual bool canReplaceOriginals() const = 0;
-    /// Whether the output is the same picture, page or recording as the input, and so keeps its modification time.
+    /// Whether the output is the same picture, page or recording as the input, and so keeps its modification
+    /// time.
     virtual bool keepsModificationTime() const { return false; }
 };
 

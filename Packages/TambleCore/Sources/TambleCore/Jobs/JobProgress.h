@@ -9,7 +9,7 @@ struct JobProgress {
     enum class Phase { processing, saving, finished };
 
     Phase phase = Phase::processing;
-    /// Items finished processing.
+    /// Items finished processing; in the saving phase, items dealt with in that phase.
     int completed = 0;
     int total = 0;
     /// The sum of the fractions of the items still in flight.

@@ -22,7 +22,8 @@ BOOST_DESCRIBE_STRUCT(ItemFailure, (), (stage, code, detail))
 
 /// Something to know about an item that was saved.
 enum class ItemNote {
-    originalKeptNoBin,  ///< the original could not go to the Bin: it was kept and the new file saved beside it
+    originalKeptNoBin,  ///< the original could not go to the Bin: it was kept and the new file saved beside
+                        ///< it
     existingKeptNoBin,  ///< the clashing file could not go to the Bin: the new file was saved with a number
 };
 BOOST_DESCRIBE_ENUM(ItemNote, originalKeptNoBin, existingKeptNoBin)

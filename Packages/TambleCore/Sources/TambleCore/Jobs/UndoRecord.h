@@ -1,5 +1,6 @@
 #pragma once
 
+#include <TambleCore/Platform/FileOperations.h>
 #include <TambleCore/Support/Json/JsonCoding.h>
 
 namespace tamble {
@@ -20,8 +21,8 @@ struct RenamedItem {
 };
 BOOST_DESCRIBE_STRUCT(RenamedItem, (), (from, to))
 
-/// Enough of a file to see whether it was changed since. For a folder: the sum of the sizes and the newest time over
-/// all it holds.
+/// Enough of a file to see whether it was changed since. For a folder: the sum of the sizes and the newest
+/// time over all it holds.
 struct FileFingerprint {
     std::int64_t size = 0;
     /// Seconds since 1970.
@@ -41,10 +42,30 @@ struct UndoRecord {
     /// By fingerprintKey() of a created file.
     std::map<std::string, FileFingerprint> createdFingerprints;
     std::vector<RenamedItem> renamedItems;
+    /// Folders the job made for its outputs, in the order they were made; absent when it made none.
+    std::optional<std::vector<std::filesystem::path>> createdFolders = {};
 
     bool isEmpty() const { return createdFiles.empty() && trashedItems.empty() && renamedItems.empty(); }
 };
-BOOST_DESCRIBE_STRUCT(UndoRecord, (), (createdFiles, trashedItems, createdFingerprints, renamedItems))
+BOOST_DESCRIBE_STRUCT(UndoRecord, (),
+                      (createdFiles, trashedItems, createdFingerprints, renamedItems, createdFolders))
+
+/// What an undo did.
+struct UndoReport {
+    int removedOutputs = 0;
+    /// Files that are back from the Bin or under their old names.
+    int restoredItems = 0;
+    int problems = 0;
+    int keptBecauseChanged = 0;
+
+    friend bool operator==(const UndoReport&, const UndoReport&) = default;
+};
+BOOST_DESCRIBE_STRUCT(UndoReport, (), (removedOutputs, restoredItems, problems, keptBecauseChanged))
+
+/// Takes back what a job changed, as far as the files are still as the job left them: removes its outputs,
+/// puts back what went to the Bin and what was renamed, and removes folders it made that are empty now. An
+/// output that is gone already counts as nothing. Never throws, never overwrites, never stops at a problem.
+UndoReport apply(const UndoRecord& record, FileOperations& fileOps);
 
 /// The path itself, or its file URL when its bytes are not UTF-8 and so cannot be a JSON key.
 std::string fingerprintKey(const std::filesystem::path& path);

@@ -60,7 +60,8 @@ std::optional<std::filesystem::path> pathFromFileURL(std::string_view url) {
     url.remove_prefix(scheme.size());
     if (url.starts_with("localhost/")) url.remove_prefix(std::string_view("localhost").size());
     auto decoded = percentDecoded(url);
-    if (!decoded || !decoded->starts_with('/') || decoded->find('\0') != std::string::npos) return std::nullopt;
+    if (!decoded || !decoded->starts_with('/') || decoded->find('\0') != std::string::npos)
+        return std::nullopt;
     return std::filesystem::path(std::move(*decoded));
 }
 

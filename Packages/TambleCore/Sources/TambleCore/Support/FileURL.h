@@ -7,8 +7,8 @@
 
 namespace tamble {
 
-/// The path as a file URL (RFC 8089), every byte outside the unreserved set percent-encoded: file names are bytes,
-/// and this is the one form in which they go through JSON unharmed.
+/// The path as a file URL (RFC 8089), every byte outside the unreserved set percent-encoded: file names are
+/// bytes, and this is the one form in which they go through JSON unharmed.
 std::string fileURL(const std::filesystem::path& path);
 
 /// Empty when the text is not a file URL of this machine or is wrongly encoded.

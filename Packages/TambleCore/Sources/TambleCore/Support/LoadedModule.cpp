@@ -1,16 +1,17 @@
 #include <TambleCore/Support/LoadedModule.h>
 
-#include <dlfcn.h>
-
 #include <filesystem>
 #include <stdexcept>
+
+#include <dlfcn.h>
 
 namespace tamble {
 namespace {
 
 std::filesystem::path folderOfThisLibrary() {
     Dl_info info{};
-    if (dladdr(reinterpret_cast<const void*>(&moduleSymbol), &info) == 0 || info.dli_fname == nullptr) return {};
+    if (dladdr(reinterpret_cast<const void*>(&moduleSymbol), &info) == 0 || info.dli_fname == nullptr)
+        return {};
     return std::filesystem::absolute(info.dli_fname).parent_path();
 }
 

@@ -1,12 +1,12 @@
 #include <TambleCore/Support/Log.h>
 #include <TambleCore/Support/Text.h>
 
+#include <cstdlib>
+#include <mutex>
+
 #include <spdlog/logger.h>
 #include <spdlog/sinks/stdout_sinks.h>
 #include <spdlog/sinks/systemd_sink.h>
-
-#include <cstdlib>
-#include <mutex>
 
 namespace tamble {
 namespace {
@@ -69,7 +69,8 @@ void Log::write(Level level, const std::string& line) const {
             return;
         }
     }
-    sharedLogger().log(level == Level::error ? spdlog::level::err : spdlog::level::info, "{}: {}", category_, line);
+    sharedLogger().log(level == Level::error ? spdlog::level::err : spdlog::level::info, "{}: {}", category_,
+                       line);
 }
 
 std::string privately(const std::filesystem::path& path) {

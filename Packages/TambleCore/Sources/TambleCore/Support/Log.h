@@ -1,16 +1,17 @@
 #pragma once
 
-#include <fmt/format.h>
-
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
 
+#include <fmt/format.h>
+
 namespace tamble {
 
-/// One area of the program's log, such as "engine" or "activity". Lines go to the system journal; with TAMBLE_LOG=1
-/// in the environment they go to standard error instead. Nothing is opened before the first line.
+/// One area of the program's log, such as "engine" or "activity". Lines go to the system journal; with
+/// TAMBLE_LOG=1 in the environment they go to standard error instead. Nothing is opened before the first
+/// line.
 class Log {
   public:
     explicit constexpr Log(std::string_view category) : category_(category) {}
@@ -31,8 +32,8 @@ class Log {
     std::string_view category_;
 };
 
-/// A path or text that belongs to the user, as it may stand in the log: "<private>", unless TAMBLE_LOG_PRIVATE=1
-/// asks for the real thing.
+/// A path or text that belongs to the user, as it may stand in the log: "<private>", unless
+/// TAMBLE_LOG_PRIVATE=1 asks for the real thing.
 std::string privately(const std::filesystem::path& path);
 
 /// Receives every line in place of the journal while it lives: for tests of what is logged.

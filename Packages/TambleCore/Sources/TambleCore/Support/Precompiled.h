@@ -1,11 +1,5 @@
 #pragma once
 
-#include <fmt/format.h>
-
-#include <boost/describe.hpp>
-#include <boost/mp11.hpp>
-#include <nlohmann/json.hpp>
-
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
@@ -19,3 +13,8 @@
 #include <string_view>
 #include <variant>
 #include <vector>
+
+#include <boost/describe.hpp>
+#include <boost/mp11.hpp>
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>

@@ -1,15 +1,15 @@
 #include <TambleCore/Support/Text.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <vector>
+
 #include <unicode/casemap.h>
 #include <unicode/normalizer2.h>
 #include <unicode/stringoptions.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 #include <unicode/utf8.h>
-
-#include <algorithm>
-#include <cstdint>
-#include <vector>
 
 namespace tamble {
 namespace {
@@ -48,8 +48,8 @@ std::string precomposed(std::string_view text) {
     if (U_FAILURE(status)) return std::string(text);
     std::string result;
     icu::StringByteSink<std::string> sink(&result);
-    nfc->normalizeUTF8(0, icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())), sink, nullptr,
-                       status);
+    nfc->normalizeUTF8(0, icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())), sink,
+                       nullptr, status);
     return U_SUCCESS(status) ? result : std::string(text);
 }
 
@@ -58,8 +58,8 @@ std::string lowercased(std::string_view text) {
     UErrorCode status = U_ZERO_ERROR;
     std::string result;
     icu::StringByteSink<std::string> sink(&result);
-    icu::CaseMap::utf8ToLower("", 0, icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())), sink,
-                              nullptr, status);
+    icu::CaseMap::utf8ToLower("", 0, icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())),
+                              sink, nullptr, status);
     return U_SUCCESS(status) ? result : withASCIILowered(text);
 }
 

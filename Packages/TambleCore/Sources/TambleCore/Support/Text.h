@@ -5,15 +5,16 @@
 
 namespace tamble {
 
-/// Canonical precomposed Unicode (NFC). Bytes that are not UTF-8 come back unchanged, so that any file name can be
-/// a key.
+/// Canonical precomposed Unicode (NFC). Bytes that are not UTF-8 come back unchanged, so that any file name
+/// can be a key.
 std::string precomposed(std::string_view text);
 
-/// Lower case by Unicode's default mapping, independent of the language in use; bytes that are not UTF-8 come back
-/// with only their ASCII letters lowered.
+/// Lower case by Unicode's default mapping, independent of the language in use; bytes that are not UTF-8 come
+/// back with only their ASCII letters lowered.
 std::string lowercased(std::string_view text);
 
-/// The text with every byte sequence that is not UTF-8 replaced by U+FFFD: for people to read, never to open a file.
+/// The text with every byte sequence that is not UTF-8 replaced by U+FFFD: for people to read, never to open
+/// a file.
 std::string printable(std::string_view bytes);
 
 /// The text without white space and line breaks (Unicode White_Space) at both ends.
@@ -22,12 +23,13 @@ std::string_view trimmed(std::string_view text);
 /// "removeAllMetadata" → "remove-all-metadata".
 std::string kebabCase(std::string_view camelCase);
 
-/// The word among `candidates` with the smallest edit distance to `word`, or an empty string when none is near
-/// enough to be meant (more than a third of the letters differ).
+/// The word among `candidates` with the smallest edit distance to `word`, or an empty string when none is
+/// near enough to be meant (more than a third of the letters differ).
 template <typename Words>
 std::string nearestWord(std::string_view word, const Words& candidates);
 
-/// Number of single-character insertions, removals, replacements and swaps of neighbours that turn `a` into `b`.
+/// Number of single-character insertions, removals, replacements and swaps of neighbours that turn `a` into
+/// `b`.
 std::size_t editDistance(std::string_view a, std::string_view b);
 
 template <typename Words>

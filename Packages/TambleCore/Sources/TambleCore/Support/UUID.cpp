@@ -1,11 +1,11 @@
 #include <TambleCore/Support/UUID.h>
 
-#include <fmt/format.h>
-
 #include <array>
 #include <cctype>
 #include <cstdint>
 #include <random>
+
+#include <fmt/format.h>
 
 namespace tamble {
 
@@ -15,8 +15,8 @@ std::string newUUID() {
     for (auto& word : words) word = device();
     words[1] = (words[1] & 0xFFFF0FFFU) | 0x00004000U;  // version 4
     words[2] = (words[2] & 0x3FFFFFFFU) | 0x80000000U;  // variant 10
-    return fmt::format("{:08X}-{:04X}-{:04X}-{:04X}-{:04X}{:08X}", words[0], words[1] >> 16U, words[1] & 0xFFFFU,
-                       words[2] >> 16U, words[2] & 0xFFFFU, words[3]);
+    return fmt::format("{:08X}-{:04X}-{:04X}-{:04X}-{:04X}{:08X}", words[0], words[1] >> 16U,
+                       words[1] & 0xFFFFU, words[2] >> 16U, words[2] & 0xFFFFU, words[3]);
 }
 
 bool isUUID(const std::string& text) {

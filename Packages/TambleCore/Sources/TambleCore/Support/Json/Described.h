@@ -1,8 +1,5 @@
 #pragma once
 
-#include <boost/describe.hpp>
-#include <boost/mp11.hpp>
-
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,6 +7,9 @@
 #include <utility>
 #include <variant>
 #include <vector>
+
+#include <boost/describe.hpp>
+#include <boost/mp11.hpp>
 
 namespace tamble {
 
@@ -21,8 +21,8 @@ concept DescribedEnum = std::is_enum_v<T> && boost::describe::has_describe_enume
 template <typename T>
 concept DescribedRecord = std::is_class_v<T> && boost::describe::has_describe_members<T>::value;
 
-/// One case of an enumeration with a payload: a described record that knows its case's name. A payload without a
-/// label is the member `value`.
+/// One case of an enumeration with a payload: a described record that knows its case's name. A payload
+/// without a label is the member `value`.
 template <typename T>
 concept DescribedCase = DescribedRecord<T> && requires {
     { T::caseName } -> std::convertible_to<std::string_view>;

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-
 #include <stdexcept>
 #include <string>
 #include <string_view>
+
+#include <nlohmann/json.hpp>
 
 namespace tamble {
 
@@ -23,7 +23,8 @@ inline constexpr int maximumJsonDepth = 256;
 /// Throws DecodeError when the text is not one JSON document or is nested deeper than maximumJsonDepth.
 Json parseJson(std::string_view text);
 
-/// The document on one line, or indented by two spaces. Strings that are not UTF-8 get replacement characters.
+/// The document on one line, or indented by two spaces. Strings that are not UTF-8 get replacement
+/// characters.
 std::string writeJson(const Json& document);
 std::string writeIndentedJson(const Json& document);
 

@@ -11,8 +11,9 @@
 #include <string>
 #include <vector>
 
-/// JSON for every described record: keys are the field names, optional fields are left out when absent, enumerations
-/// are their case names, enumerations with a payload are objects with one key, paths are file URLs.
+/// JSON for every described record: keys are the field names, optional fields are left out when absent,
+/// enumerations are their case names, enumerations with a payload are objects with one key, paths are file
+/// URLs.
 namespace tamble {
 
 template <typename T>
@@ -98,11 +99,13 @@ T decodeCase(const Json& document, const std::variant<Cases...>*) {
 template <std::integral T>
 T decodeInteger(const Json& document) {
     if (document.is_number_unsigned()) {
-        if (const auto value = document.get<std::uint64_t>(); std::in_range<T>(value)) return static_cast<T>(value);
+        if (const auto value = document.get<std::uint64_t>(); std::in_range<T>(value))
+            return static_cast<T>(value);
         throw DecodeError("The number is too large.");
     }
     if (document.is_number_integer()) {
-        if (const auto value = document.get<std::int64_t>(); std::in_range<T>(value)) return static_cast<T>(value);
+        if (const auto value = document.get<std::int64_t>(); std::in_range<T>(value))
+            return static_cast<T>(value);
         throw DecodeError("The number is too large or too small.");
     }
     throw DecodeError("A whole number was expected.");
@@ -126,7 +129,8 @@ Json encodeJson(const T& value) {
         return std::visit(
             [](const auto& chosen) {
                 Json object = Json::object();
-                object[std::string(std::remove_cvref_t<decltype(chosen)>::caseName)] = detail::encodeRecord(chosen);
+                object[std::string(std::remove_cvref_t<decltype(chosen)>::caseName)] =
+                    detail::encodeRecord(chosen);
                 return object;
             },
             value);
@@ -162,11 +166,13 @@ T decodeJson(const Json& document) {
         if (!document.is_string()) throw DecodeError("A text was expected.");
         return document.get<std::string>();
     } else if constexpr (std::same_as<T, std::filesystem::path>) {
-        auto path = document.is_string() ? pathFromFileURL(document.get_ref<const std::string&>()) : std::nullopt;
+        auto path =
+            document.is_string() ? pathFromFileURL(document.get_ref<const std::string&>()) : std::nullopt;
         if (!path) throw DecodeError("A file URL was expected.");
         return std::move(*path);
     } else if constexpr (DescribedEnum<T>) {
-        const auto value = document.is_string() ? caseNamed<T>(document.get_ref<const std::string&>()) : std::nullopt;
+        const auto value =
+            document.is_string() ? caseNamed<T>(document.get_ref<const std::string&>()) : std::nullopt;
         if (!value) throw DecodeError("One of these was expected: " + detail::listed(caseNames<T>()) + ".");
         return *value;
     } else if constexpr (Optional<T>) {

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-/// What a tool lets people choose, as data: headings, choices with their texts, and the settings each choice changes.
-/// The window draws it, the command line prints it; neither knows the tools.
+/// What a tool lets people choose, as data: headings, choices with their texts, and the settings each choice
+/// changes. The window draws it, the command line prints it; neither knows the tools.
 namespace tamble {
 
 /// One thing that can be picked.
@@ -38,8 +38,8 @@ struct PanelSection {
     std::string setting = {};
     std::pair<std::int64_t, std::int64_t> range = {};
     std::string note = {};
-    /// When not empty, the section is shown only if these members stand so in the settings, and only if some input
-    /// is of this content type.
+    /// When not empty, the section is shown only if these members stand so in the settings, and only if some
+    /// input is of this content type.
     Json onlyWith = Json::object();
     std::string onlyForType = {};
 };

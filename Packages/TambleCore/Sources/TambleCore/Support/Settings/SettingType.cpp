@@ -1,11 +1,11 @@
-#include <TambleCore/Support/Settings/SettingType.h>
 #include <TambleCore/Support/FileURL.h>
+#include <TambleCore/Support/Settings/SettingType.h>
 #include <TambleCore/Support/Text.h>
+
+#include <charconv>
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
-
-#include <charconv>
 
 namespace tamble {
 namespace {
@@ -47,9 +47,10 @@ Json caseValue(const SettingType& type, std::string_view text) {
     std::vector<std::string> names;
     for (const auto& candidate : type.cases) names.push_back(candidate.name);
     const std::string nearest = nearestWord(name, names);
-    throw SettingError(nearest.empty() ? fmt::format("“{}” is not one of: {}.", printable(text), fmt::join(names, ", "))
-                                       : fmt::format("“{}” is not one of: {}. Did you mean “{}”?", printable(text),
-                                                     fmt::join(names, ", "), nearest));
+    throw SettingError(nearest.empty()
+                           ? fmt::format("“{}” is not one of: {}.", printable(text), fmt::join(names, ", "))
+                           : fmt::format("“{}” is not one of: {}. Did you mean “{}”?", printable(text),
+                                         fmt::join(names, ", "), nearest));
 }
 
 }  // namespace
@@ -57,14 +58,21 @@ Json caseValue(const SettingType& type, std::string_view text) {
 Json settingValue(const SettingType& type, std::string_view text) {
     if (type.isOptional && text == "none") return Json(nullptr);
     switch (type.kind) {
-        case SettingKind::boolean: return booleanValue(text);
-        case SettingKind::integer: return numberValue<std::int64_t>(text, "a whole number");
-        case SettingKind::number: return numberValue<double>(text, "a number");
-        case SettingKind::text: return Json(std::string(text));
-        case SettingKind::file: return Json(fileURL(std::string(text)));
+        case SettingKind::boolean:
+            return booleanValue(text);
+        case SettingKind::integer:
+            return numberValue<std::int64_t>(text, "a whole number");
+        case SettingKind::number:
+            return numberValue<double>(text, "a number");
+        case SettingKind::text:
+            return Json(std::string(text));
+        case SettingKind::file:
+            return Json(fileURL(std::string(text)));
         case SettingKind::enumeration:
-        case SettingKind::choice: return caseValue(type, text);
-        case SettingKind::record: break;
+        case SettingKind::choice:
+            return caseValue(type, text);
+        case SettingKind::record:
+            break;
     }
     try {
         return parseJson(text);
@@ -81,7 +89,8 @@ std::vector<std::string> settingWords(const SettingType& type) {
             words.push_back(candidate.name);
             continue;
         }
-        for (const auto& word : settingWords(candidate.payload.front())) words.push_back(candidate.name + ":" + word);
+        for (const auto& word : settingWords(candidate.payload.front()))
+            words.push_back(candidate.name + ":" + word);
     }
     return words;
 }
@@ -89,13 +98,19 @@ std::vector<std::string> settingWords(const SettingType& type) {
 std::string settingSyntax(const SettingType& type) {
     switch (type.kind) {
         case SettingKind::boolean:
-        case SettingKind::enumeration: return fmt::format("{}", fmt::join(settingWords(type), "|"));
+        case SettingKind::enumeration:
+            return fmt::format("{}", fmt::join(settingWords(type), "|"));
         case SettingKind::integer:
-        case SettingKind::number: return "NUMBER";
-        case SettingKind::text: return "TEXT";
-        case SettingKind::file: return "FILE";
-        case SettingKind::record: return "JSON";
-        case SettingKind::choice: break;
+        case SettingKind::number:
+            return "NUMBER";
+        case SettingKind::text:
+            return "TEXT";
+        case SettingKind::file:
+            return "FILE";
+        case SettingKind::record:
+            return "JSON";
+        case SettingKind::choice:
+            break;
     }
     std::vector<std::string> forms;
     for (const auto& candidate : type.cases) {

@@ -36,11 +36,12 @@ class SettingError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// The JSON value that `text` stands for: "true", "1920", "smaller", "convert:webp", "none" for an absent optional.
-/// Throws SettingError, with the nearest right word when there is one.
+/// The JSON value that `text` stands for: "true", "1920", "smaller", "convert:webp", "none" for an absent
+/// optional. Throws SettingError, with the nearest right word when there is one.
 Json settingValue(const SettingType& type, std::string_view text);
 
-/// How a value of this type is written, for help: "true|false", "NUMBER", "keepFormat|convert:webp|convert:jpeg".
+/// How a value of this type is written, for help: "true|false", "NUMBER",
+/// "keepFormat|convert:webp|convert:jpeg".
 std::string settingSyntax(const SettingType& type);
 
 /// Every whole word that a value of this type can be, for completion; empty for numbers and texts.

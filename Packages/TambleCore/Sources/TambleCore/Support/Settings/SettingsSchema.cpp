@@ -15,15 +15,17 @@ const SettingField* SettingsSchema::fieldNamed(std::string_view name) const {
 }
 
 Json SettingsSchema::merged(Json base, const Json& changes) const {
-    if (!changes.is_object()) throw SettingError("Settings are written as an object, as in {\"quality\": \"best\"}.");
+    if (!changes.is_object())
+        throw SettingError("Settings are written as an object, as in {\"quality\": \"best\"}.");
     for (const auto& [name, value] : changes.items()) {
         const SettingField* field = fieldNamed(name);
         if (field == nullptr) {
             std::vector<std::string> names;
             for (const auto& known : fields) names.push_back(known.name);
             const std::string nearest = nearestWord(name, names);
-            throw SettingError(fmt::format("There is no setting “{}”.{}", name,
-                                           nearest.empty() ? "" : fmt::format(" Did you mean “{}”?", nearest)));
+            throw SettingError(
+                fmt::format("There is no setting “{}”.{}", name,
+                            nearest.empty() ? "" : fmt::format(" Did you mean “{}”?", nearest)));
         }
         if (value.is_null()) {
             base.erase(name);

@@ -27,13 +27,15 @@ struct SettingField {
     std::string flag() const;
 };
 
-/// The fields of a settings record, in its order, and what can be done with its JSON form without knowing its type.
+/// The fields of a settings record, in its order, and what can be done with its JSON form without knowing its
+/// type.
 struct SettingsSchema {
     std::vector<SettingField> fields;
 
     const SettingField* fieldNamed(std::string_view name) const;
-    /// `base` with the members of `changes` in place of its own; a null member removes an optional one. Throws
-    /// SettingError for a member that is no field (naming the nearest) and for a number outside its range.
+    /// `base` with the members of `changes` in place of its own; a null member removes an optional one.
+    /// Throws SettingError for a member that is no field (naming the nearest) and for a number outside its
+    /// range.
     Json merged(Json base, const Json& changes) const;
 };
 

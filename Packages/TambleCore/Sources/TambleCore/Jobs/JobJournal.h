@@ -1,0 +1,37 @@
+#pragma once
+
+#include <TambleCore/Jobs/JobPlan.h>
+
+#include <span>
+
+namespace tamble {
+
+/// One output about to be saved.
+struct PlannedSave {
+    /// Of the input; for a tool with one output of all, 0.
+    std::size_t index = 0;
+    /// Where the output waits.
+    std::filesystem::path staged;
+    Placement placement;
+};
+
+/// Is told what the saving phase is about to do and has done, so that a job that was killed can be taken back
+/// later. The functions are called by one thread. What they throw before a step prevents the step.
+class JobJournal {
+  public:
+    virtual ~JobJournal() = default;
+
+    /// The whole plan, once, before anything outside the staging folders changes.
+    virtual void willSave(std::span<const PlannedSave> plan) = 0;
+    /// An output goes elsewhere than planned, because the disk is not as it was.
+    virtual void willSaveInstead(const PlannedSave& save) = 0;
+    virtual void didCreateFolder(const std::filesystem::path& folder) = 0;
+    virtual void didTrash(const TrashedItem& item) = 0;
+    /// A file came back from the Bin, because its item could not be saved.
+    virtual void didPutBack(const TrashedItem& item) = 0;
+    virtual void didCreate(const std::filesystem::path& output, const FileFingerprint& fingerprint) = 0;
+    /// The job is over, and its result is about to be handed to the caller.
+    virtual void didFinish() = 0;
+};
+
+}  // namespace tamble

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <TambleCore/Jobs/JobResult.h>
+
+#include <variant>
+#include <vector>
+
+namespace tamble {
+
+/// What saving one output does.
+struct Placement {
+    /// Where the output goes; a folder's path ends in "/".
+    std::filesystem::path target;
+    /// The original that goes to the Bin because the output takes its place.
+    std::optional<std::filesystem::path> original = {};
+    /// The file that goes to the Bin because it has the output's name.
+    std::optional<std::filesystem::path> clashing = {};
+};
+
+/// What would become of one input.
+using PlannedOutcome = std::variant<Placement, outcome::Skipped, outcome::Failed>;
+
+/// Where a job would put its outputs if every item succeeded: one entry per input, in input order.
+struct JobPlan {
+    std::vector<PlannedOutcome> items;
+};
+
+}  // namespace tamble

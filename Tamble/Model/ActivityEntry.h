@@ -1,0 +1,48 @@
+#pragma once
+
+#include <TambleCore/Jobs/JobResult.h>
+
+#include <chrono>
+#include <span>
+
+namespace tamble {
+
+/// A finished job, as the activity log keeps it.
+struct ActivityEntry {
+    /// A UUID.
+    std::string id;
+    /// When the job finished: ISO 8601 in UTC, as in "2026-11-13T09:41:00Z".
+    std::string date;
+    std::string toolID;
+    /// A short description of what was worked on.
+    std::string subject;
+    int doneCount = 0;
+    int skippedCount = 0;
+    int failedCount = 0;
+    /// Bytes of all inputs, and of all outputs.
+    std::int64_t inputBytes = 0;
+    std::int64_t outputBytes = 0;
+    std::vector<std::filesystem::path> outputFiles;
+    UndoRecord undo;
+    bool undone = false;
+};
+BOOST_DESCRIBE_STRUCT(ActivityEntry, (),
+                      (id, date, toolID, subject, doneCount, skippedCount, failedCount, inputBytes,
+                       outputBytes, outputFiles, undo, undone))
+
+/// The entry of a job that finished just now.
+ActivityEntry activityEntry(const std::string& toolID, const JobResult& result);
+
+/// What a job worked on: the name of the one dropped folder, or the first file's name and how many others
+/// there are, as in "beach.jpg and 11 others".
+std::string activitySubject(std::span<const ItemResult> items);
+
+/// "2026-11-13T09:41:00Z".
+std::string isoDate(std::chrono::system_clock::time_point time);
+/// Empty when the text is not such a date.
+std::optional<std::chrono::system_clock::time_point> timeOfISODate(std::string_view text);
+
+/// What an undo did, as people read it.
+std::string undoSentence(const UndoReport& report);
+
+}  // namespace tamble

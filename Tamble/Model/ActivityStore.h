@@ -1,0 +1,56 @@
+#pragma once
+
+#include <Tamble/Model/ActivityEntry.h>
+
+#include <TambleCore/Jobs/JobEngine.h>
+
+#include <functional>
+#include <set>
+
+namespace tamble {
+
+/// The log of finished jobs, kept in a file that several programs share: every change is merged into what the
+/// file holds by then. To be used by one thread.
+class ActivityStore {
+  public:
+    /// Undo works through the engine's file operations. Reads nothing yet.
+    explicit ActivityStore(JobEngine engine, std::filesystem::path fileURL = defaultFile());
+
+    static std::filesystem::path defaultFile();
+    static constexpr std::size_t maximumEntries = 1000;
+
+    /// Reads the file. One that cannot be read or decoded counts as empty, and is moved aside by the next
+    /// change.
+    void load();
+
+    /// The newest first.
+    const std::vector<ActivityEntry>& entries() const noexcept { return entries_; }
+    const ActivityEntry* entry(const std::string& id) const;
+
+    void add(ActivityEntry entry);
+    /// Takes the job back and waits until it is. Nothing when there is no such entry, or it is undone, or
+    /// being undone.
+    std::optional<UndoReport> undo(const std::string& id);
+    /// Forgets all entries; the files of the jobs stay as they are.
+    void clear();
+
+    const std::set<std::string>& undoingIDs() const noexcept { return undoingIDs_; }
+    /// Entries undone in this run of the program.
+    const std::set<std::string>& undoneIDs() const noexcept { return undoneIDs_; }
+
+    /// Called after every change of what the functions above answer.
+    std::function<void()> onChange;
+
+  private:
+    using Change = std::function<void(std::vector<ActivityEntry>&)>;
+    void merge(const Change& change);
+    void changed() const;
+
+    JobEngine engine_;
+    std::filesystem::path fileURL_;
+    std::vector<ActivityEntry> entries_;
+    std::set<std::string> undoingIDs_;
+    std::set<std::string> undoneIDs_;
+};
+
+}  // namespace tamble
