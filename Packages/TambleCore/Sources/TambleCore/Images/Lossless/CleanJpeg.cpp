@@ -72,15 +72,22 @@ class LocationFilter {
             case Kind::exif:
                 if (const auto block = exifWithoutLocation(segment.payload)) put(Kind::exif, *block);
                 break;
-            case Kind::xmp: filterXmp(segment.payload); break;
-            case Kind::photoshop: filterResources(); break;
+            case Kind::xmp:
+                filterXmp(segment.payload);
+                break;
+            case Kind::photoshop:
+                filterResources();
+                break;
             case Kind::jfif:
             case Kind::icc:
             case Kind::adobe:
             case Kind::comment:
-            case Kind::coding: append(result_, segment.whole); break;
+            case Kind::coding:
+                append(result_, segment.whole);
+                break;
             case Kind::extendedXmp:
-            case Kind::other: break;
+            case Kind::other:
+                break;
         }
     }
 
@@ -98,7 +105,8 @@ class LocationFilter {
         if (extension_) putExtension();
     }
 
-    /// The extension in parts, under the name it had: readers compare it with the main packet's reference only.
+    /// The extension in parts, under the name it had: readers compare it with the main packet's reference
+    /// only.
     void putExtension() {
         const std::size_t size = jpeg::capacity(Kind::extendedXmp) - xmp::extensionHeaderSize;
         for (std::size_t at = 0; at < extension_->size(); at += size) {

@@ -68,7 +68,8 @@ Bytes withoutLocation(ByteView file, const png::Layout& layout) {
         const auto exif = blocks.exif ? exifWithoutLocation(*blocks.exif) : std::nullopt;
         if (exif) png::appendChunk(result, "eXIf", *exif);
         const auto packet =
-            blocks.xmp ? xmp::edited(*blocks.xmp, {.withoutLocation = true, .withoutAttachments = true}) : std::nullopt;
+            blocks.xmp ? xmp::edited(*blocks.xmp, {.withoutLocation = true, .withoutAttachments = true})
+                       : std::nullopt;
         if (packet) png::appendXmp(result, *packet);
         if (blocks.iptc) {
             Bytes resources;
@@ -85,13 +86,15 @@ Bytes withoutLocation(ByteView file, const png::Layout& layout) {
 std::optional<Bytes> cleanedPng(ByteView file, MetadataRemoval removal) {
     const auto layout = png::layout(file);
     if (!layout) return std::nullopt;
-    // Animations are left to those who know what their frames need; so are critical chunks of a later standard.
+    // Animations are left to those who know what their frames need; so are critical chunks of a later
+    // standard.
     const bool unknown = std::ranges::any_of(layout->chunks, [](const png::Chunk& chunk) {
         const bool critical = chunk.type.front() >= 'A' && chunk.type.front() <= 'Z';
         return chunk.type == "acTL" || (critical && !describesPixels(chunk.type));
     });
     if (unknown) return std::nullopt;
-    return removal == MetadataRemoval::everything ? withoutEverything(file, *layout) : withoutLocation(file, *layout);
+    return removal == MetadataRemoval::everything ? withoutEverything(file, *layout)
+                                                  : withoutLocation(file, *layout);
 }
 
 }  // namespace tamble

@@ -55,9 +55,10 @@ std::optional<Bytes> cleanedTiff(ByteView file, MetadataRemoval removal) {
     // Strips that lie upon one another could blow up a small file.
     std::size_t total = 0;
     for (const tiff::Range& picture : *pictures) total += picture.size;
-    const bool severalPages = std::ranges::any_of(structure->directories, [&](const tiff::Directory& directory) {
-        return directory.kind == tiff::DirectoryKind::page && &directory != &main;
-    });
+    const bool severalPages =
+        std::ranges::any_of(structure->directories, [&](const tiff::Directory& directory) {
+            return directory.kind == tiff::DirectoryKind::page && &directory != &main;
+        });
     if (severalPages || total > file.size() || main.find(tiff::tag::thumbnailOffset) != nullptr ||
         structure->number(main, tiff::tag::compression) == oldStyleJpeg) {
         return std::nullopt;

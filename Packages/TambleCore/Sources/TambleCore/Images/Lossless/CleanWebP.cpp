@@ -27,7 +27,8 @@ std::optional<Bytes> cleanedWebP(ByteView file, MetadataRemoval removal) {
             exif = exifWithOrientationOnly(blocks.exif);
         } else {
             if (blocks.exif) exif = exifWithoutLocation(*blocks.exif);
-            if (blocks.xmp) packet = xmp::edited(*blocks.xmp, {.withoutLocation = true, .withoutAttachments = true});
+            if (blocks.xmp)
+                packet = xmp::edited(*blocks.xmp, {.withoutLocation = true, .withoutAttachments = true});
         }
     }
     Bytes result;

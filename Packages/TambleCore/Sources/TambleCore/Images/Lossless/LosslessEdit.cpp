@@ -7,13 +7,18 @@ namespace tamble {
 std::optional<Bytes> losslesslyCleaned(ByteView file, ImageFormat format, MetadataRemoval removal) {
     if (removal == MetadataRemoval::nothing) return Bytes(file.begin(), file.end());
     switch (format) {
-        case ImageFormat::jpeg: return cleanedJpeg(file, removal);
-        case ImageFormat::png: return cleanedPng(file, removal);
-        case ImageFormat::webp: return cleanedWebP(file, removal);
-        case ImageFormat::tiff: return cleanedTiff(file, removal);
+        case ImageFormat::jpeg:
+            return cleanedJpeg(file, removal);
+        case ImageFormat::png:
+            return cleanedPng(file, removal);
+        case ImageFormat::webp:
+            return cleanedWebP(file, removal);
+        case ImageFormat::tiff:
+            return cleanedTiff(file, removal);
         case ImageFormat::heic:
         case ImageFormat::gif:
-        case ImageFormat::avif: break;
+        case ImageFormat::avif:
+            break;
     }
     return std::nullopt;
 }

@@ -4,10 +4,10 @@
 #include <TambleCore/Images/Metadata/Text/PhotoshopResources.h>
 #include <TambleCore/Images/Metadata/Text/Xmp.h>
 
-#include <turbojpeg.h>
-
 #include <array>
 #include <utility>
+
+#include <turbojpeg.h>
 
 namespace tamble {
 namespace {
@@ -15,7 +15,8 @@ namespace {
 using jpeg::Kind;
 using jpeg::Segment;
 
-/// Where the right and the down direction of a picture go, as a matrix of rows (a b), (c d) with y pointing down.
+/// Where the right and the down direction of a picture go, as a matrix of rows (a b), (c d) with y pointing
+/// down.
 struct Turn {
     int a = 1;
     int b = 0;
@@ -48,12 +49,18 @@ Turn upright(int orientation) {
 Turn turnOf(ImageJobSettings::Rotation rotation) {
     using Rotation = ImageJobSettings::Rotation;
     switch (rotation) {
-        case Rotation::none: break;
-        case Rotation::right: return right;
-        case Rotation::left: return left;
-        case Rotation::upsideDown: return half;
-        case Rotation::flipHorizontal: return mirror;
-        case Rotation::flipVertical: return flip;
+        case Rotation::none:
+            break;
+        case Rotation::right:
+            return right;
+        case Rotation::left:
+            return left;
+        case Rotation::upsideDown:
+            return half;
+        case Rotation::flipHorizontal:
+            return mirror;
+        case Rotation::flipVertical:
+            return flip;
     }
     return none;
 }
@@ -78,7 +85,8 @@ struct TurboFree {
 };
 
 bool isProgressive(const std::vector<Segment>& segments) {
-    return std::ranges::any_of(segments, [](const Segment& s) { return s.marker == 0xC2 || s.marker == 0xCA; });
+    return std::ranges::any_of(segments,
+                               [](const Segment& s) { return s.marker == 0xC2 || s.marker == 0xCA; });
 }
 
 /// The coded picture turned, with no metadata; empty when it cannot be done to the last pixel.
@@ -90,8 +98,8 @@ std::optional<Bytes> transformed(ByteView picture, const Turn& turn, bool progre
     transform.options = TJXOPT_PERFECT | TJXOPT_COPYNONE | (progressive ? TJXOPT_PROGRESSIVE : 0);
     unsigned char* bytes = nullptr;
     unsigned long size = 0;
-    const int answer = tjTransform(handle.get(), reinterpret_cast<const unsigned char*>(picture.data()), picture.size(),
-                                   1, &bytes, &size, &transform, TJFLAG_STOPONWARNING);
+    const int answer = tjTransform(handle.get(), reinterpret_cast<const unsigned char*>(picture.data()),
+                                   picture.size(), 1, &bytes, &size, &transform, TJFLAG_STOPONWARNING);
     const std::unique_ptr<unsigned char, TurboFree> owner(bytes);
     if (answer != 0) return std::nullopt;
     const auto view = std::as_bytes(std::span(bytes, size));
@@ -110,10 +118,11 @@ std::optional<tiff::Edit::PixelSize> frameSize(const std::vector<Segment>& segme
     return std::nullopt;
 }
 
-/// Whether a segment speaks of other pictures behind the picture's end: the index of a multi-picture file, or a gain
-/// map's parameters.
+/// Whether a segment speaks of other pictures behind the picture's end: the index of a multi-picture file, or
+/// a gain map's parameters.
 bool pointsBehindTheEnd(const Segment& segment) {
-    return segment.marker == 0xE2 && (startsWith(segment.payload, "MPF") || startsWith(segment.payload, "urn:iso:std:"));
+    return segment.marker == 0xE2 &&
+           (startsWith(segment.payload, "MPF") || startsWith(segment.payload, "urn:iso:std:"));
 }
 
 void appendMetadata(Bytes& result, const std::vector<Segment>& segments, tiff::Edit::PixelSize size) {
@@ -121,10 +130,12 @@ void appendMetadata(Bytes& result, const std::vector<Segment>& segments, tiff::E
     for (const Segment& segment : segments) {
         if (segment.kind == Kind::exif) {
             const auto block = tiff::edited(segment.payload, {.withoutThumbnail = true, .upright = size});
-            if (block && block->size() <= jpeg::capacity(Kind::exif)) jpeg::appendSegment(result, Kind::exif, *block);
+            if (block && block->size() <= jpeg::capacity(Kind::exif))
+                jpeg::appendSegment(result, Kind::exif, *block);
         } else if (segment.kind == Kind::xmp) {
-            const auto packet = xmp::edited(segment.payload, {.withoutAttachments = true,
-                                                              .upright = xmp::PixelSize{size.width, size.height}});
+            const auto packet =
+                xmp::edited(segment.payload,
+                            {.withoutAttachments = true, .upright = xmp::PixelSize{size.width, size.height}});
             const std::size_t limit = jpeg::capacity(Kind::xmp);
             const auto fitting = packet && packet->size() > limit ? xmp::shortened(*packet, limit) : packet;
             if (fitting && fitting->size() <= limit) jpeg::appendSegment(result, Kind::xmp, *fitting);

@@ -7,13 +7,25 @@ std::vector<std::string> remainingTraces(ByteView file, ImageFormat format, Meta
     if (removal == MetadataRemoval::nothing) return {};
     TraceFinder finder(removal);
     switch (format) {
-        case ImageFormat::jpeg: finder.jpeg(file); break;
-        case ImageFormat::png: finder.png(file); break;
-        case ImageFormat::webp: finder.webp(file); break;
-        case ImageFormat::tiff: finder.tiff(file); break;
-        case ImageFormat::gif: finder.gif(file); break;
+        case ImageFormat::jpeg:
+            finder.jpeg(file);
+            break;
+        case ImageFormat::png:
+            finder.png(file);
+            break;
+        case ImageFormat::webp:
+            finder.webp(file);
+            break;
+        case ImageFormat::tiff:
+            finder.tiff(file);
+            break;
+        case ImageFormat::gif:
+            finder.gif(file);
+            break;
         case ImageFormat::heic:
-        case ImageFormat::avif: finder.iso(file); break;
+        case ImageFormat::avif:
+            finder.iso(file);
+            break;
     }
     return std::move(finder).take();
 }

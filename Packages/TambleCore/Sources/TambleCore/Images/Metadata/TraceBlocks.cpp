@@ -13,9 +13,9 @@ bool isNameCharacter(char c) {
 
 /// The words of places that may follow a namespace's prefix, as in "photoshop:City".
 constexpr std::array<std::string_view, 17> placeNames{
-    "City",          "Country",      "CountryCode",     "CountryName", "Location",    "LocationCreated",
-    "LocationShown", "ProvinceState", "Sublocation",     "State",       "WorldRegion", "LocationName",
-    "LocationId",    "shotLocation", "SubLocation",     "lat",         "long"};
+    "City",          "Country",       "CountryCode", "CountryName", "Location",    "LocationCreated",
+    "LocationShown", "ProvinceState", "Sublocation", "State",       "WorldRegion", "LocationName",
+    "LocationId",    "shotLocation",  "SubLocation", "lat",         "long"};
 
 bool isPlace(std::string_view name) {
     return std::ranges::find(placeNames, name) != placeNames.end() || name.starts_with("GPS") ||
@@ -25,14 +25,15 @@ bool isPlace(std::string_view name) {
 
 /// The first property name in the text that tells a place.
 std::string_view placeAmong(std::string_view text) {
-    for (std::size_t colon = text.find(':'); colon != std::string_view::npos; colon = text.find(':', colon + 1)) {
+    for (std::size_t colon = text.find(':'); colon != std::string_view::npos;
+         colon = text.find(':', colon + 1)) {
         if (colon == 0 || !isNameCharacter(text[colon - 1])) continue;
         std::size_t end = colon + 1;
         while (end < text.size() && isNameCharacter(text[end])) ++end;
         const std::string_view name = text.substr(colon + 1, end - colon - 1);
         // In running text a property would be followed by other things than "=", ">", "/" or white space.
-        const bool isProperty = end < text.size() && std::string_view("=>/ \t\r\n").find(text[end]) !=
-                                                         std::string_view::npos;
+        const bool isProperty =
+            end < text.size() && std::string_view("=>/ \t\r\n").find(text[end]) != std::string_view::npos;
         if (isProperty && isPlace(name)) return name;
     }
     return {};
@@ -47,7 +48,8 @@ void TraceFinder::add(std::string trace) {
 void TraceFinder::afterTheEnd(ByteView file, std::size_t end) {
     // Padding tells nothing.
     const ByteView rest = file.subspan(std::min(end, file.size()));
-    if (std::ranges::any_of(rest, [](std::byte b) { return b != std::byte{0}; })) add("data after the picture's end");
+    if (std::ranges::any_of(rest, [](std::byte b) { return b != std::byte{0}; }))
+        add("data after the picture's end");
 }
 
 void TraceFinder::properties(ByteView text) {

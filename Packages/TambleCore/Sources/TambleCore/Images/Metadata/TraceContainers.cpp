@@ -25,18 +25,28 @@ void TraceFinder::jpeg(ByteView file) {
     if (!layout) return add(unreadable);
     for (const jpeg::Segment& segment : layout->segments) {
         switch (segment.kind) {
-            case jpeg::Kind::exif: exif(segment.payload); break;
+            case jpeg::Kind::exif:
+                exif(segment.payload);
+                break;
             case jpeg::Kind::xmp:
-            case jpeg::Kind::extendedXmp: break;  // looked at together
-            case jpeg::Kind::photoshop: addHidden("image resource blocks"); break;
-            case jpeg::Kind::comment: addHidden("a comment"); break;
+            case jpeg::Kind::extendedXmp:
+                break;  // looked at together
+            case jpeg::Kind::photoshop:
+                addHidden("image resource blocks");
+                break;
+            case jpeg::Kind::comment:
+                addHidden("a comment");
+                break;
             case jpeg::Kind::jfif:
                 if (segment.payload.size() > 9) addHidden("a thumbnail");
                 break;
-            case jpeg::Kind::other: add("application data"); break;
+            case jpeg::Kind::other:
+                add("application data");
+                break;
             case jpeg::Kind::icc:
             case jpeg::Kind::adobe:
-            case jpeg::Kind::coding: break;
+            case jpeg::Kind::coding:
+                break;
         }
     }
     for (const auto kind : {jpeg::Kind::xmp, jpeg::Kind::extendedXmp}) {
@@ -51,8 +61,9 @@ void TraceFinder::jpeg(ByteView file) {
 void TraceFinder::png(ByteView file) {
     const auto layout = png::layout(file);
     if (!layout) return add(unreadable);
-    constexpr std::array<std::string_view, 15> harmless{"IHDR", "PLTE", "IDAT", "IEND", "tRNS", "gAMA", "cHRM", "sRGB",
-                                                        "iCCP", "sBIT", "bKGD", "pHYs", "cICP", "hIST", "eXIf"};
+    constexpr std::array<std::string_view, 15> harmless{"IHDR", "PLTE", "IDAT", "IEND", "tRNS",
+                                                        "gAMA", "cHRM", "sRGB", "iCCP", "sBIT",
+                                                        "bKGD", "pHYs", "cICP", "hIST", "eXIf"};
     for (const png::Chunk& chunk : layout->chunks) {
         if (!isAmong(harmless, chunk.type)) addHidden("chunk " + std::string(chunk.type));
         if (chunk.type == "eXIf") exif(chunk.data);
@@ -63,11 +74,13 @@ void TraceFinder::png(ByteView file) {
             continue;
         }
         const auto profile = png::rawProfile(*text);
-        if (!profile && text->keyword.starts_with(png::rawProfileKeyword)) add("a profile that cannot be read");
+        if (!profile && text->keyword.starts_with(png::rawProfileKeyword))
+            add("a profile that cannot be read");
         if (text->keyword == png::xmpKeyword) properties(text->value);
         if (text->keyword.find("GPS") != std::string::npos) add("GPS position in text");
         if (!profile) continue;
-        if (startsWith(*profile, "Exif")) exif(ByteView(*profile).subspan(std::min<std::size_t>(6, profile->size())));
+        if (startsWith(*profile, "Exif"))
+            exif(ByteView(*profile).subspan(std::min<std::size_t>(6, profile->size())));
         if (startsWith(*profile, "8BIM")) resources(*profile);
         properties(*profile);
     }
@@ -82,7 +95,8 @@ void TraceFinder::webp(ByteView file) {
         if (chunk.type == "XMP ") {
             properties(chunk.data);
         } else if (chunk.type == "EXIF") {
-            exif(startsWith(chunk.data, "Exif") && chunk.data.size() > 6 ? chunk.data.subspan(6) : chunk.data);
+            exif(startsWith(chunk.data, "Exif") && chunk.data.size() > 6 ? chunk.data.subspan(6)
+                                                                         : chunk.data);
         } else if (!isAmong(harmless, chunk.type)) {
             add("chunk " + std::string(chunk.type));
         }
@@ -107,7 +121,8 @@ void TraceFinder::tiff(ByteView file) {
             }
         }
         const auto data = tiff::pictureData(*structure, directory);
-        for (const tiff::Range& part : data.value_or(std::vector<tiff::Range>{})) end = std::max(end, part.end());
+        for (const tiff::Range& part : data.value_or(std::vector<tiff::Range>{}))
+            end = std::max(end, part.end());
     }
     if (structure->directories.size() > 1) addHidden("a second directory");
     afterTheEnd(file, end + end % 2);
@@ -118,12 +133,14 @@ void TraceFinder::tiff(ByteView file) {
 void TraceFinder::gif(ByteView file) {
     const auto layout = gif::layout(file);
     if (!layout) return add(unreadable);
-    constexpr std::array<std::string_view, 4> harmless{"NETSCAPE2.0", "ANIMEXTS1.0", "ICCRGBG1012", "XMP DataXMP"};
+    constexpr std::array<std::string_view, 4> harmless{"NETSCAPE2.0", "ANIMEXTS1.0", "ICCRGBG1012",
+                                                       "XMP DataXMP"};
     for (const gif::Block& block : layout->blocks) {
         if (block.kind == gif::BlockKind::comment) addHidden("a comment");
         if (block.kind == gif::BlockKind::plainText) addHidden("a text");
         if (block.kind == gif::BlockKind::unknown) add("a block of unknown kind");
-        if (block.kind == gif::BlockKind::application && !isAmong(harmless, block.application)) add("application data");
+        if (block.kind == gif::BlockKind::application && !isAmong(harmless, block.application))
+            add("application data");
         if (block.application == "XMP DataXMP") properties(block.data);
     }
     afterTheEnd(file, layout->end);

@@ -4,8 +4,8 @@
 
 namespace tamble {
 
-/// Collects what should not be in a picture's file any more. Looks at bytes as a stranger would: it shares the
-/// knowledge of containers with the code that removes, not the decisions about what goes.
+/// Collects what should not be in a picture's file any more. Looks at bytes as a stranger would: it shares
+/// the knowledge of containers with the code that removes, not the decisions about what goes.
 class TraceFinder {
   public:
     explicit TraceFinder(MetadataRemoval removal) : everything_(removal == MetadataRemoval::everything) {}
