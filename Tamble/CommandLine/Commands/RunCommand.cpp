@@ -7,8 +7,8 @@
 #include <Tamble/CommandLine/Progress/StopSignals.h>
 #include <Tamble/CommandLine/Progress/WatchedProcessor.h>
 #include <Tamble/CommandLine/Report/JobReport.h>
+#include <Tamble/CommandLine/Report/NothingFound.h>
 #include <Tamble/CommandLine/Report/ResultJson.h>
-#include <Tamble/CommandLine/Report/ScanNotes.h>
 #include <Tamble/CommandLine/Text/SafeText.h>
 #include <Tamble/Model/ActivityStore.h>
 

@@ -42,7 +42,8 @@ std::string commandLines(const CommandDescription& command) {
     if (command.operandCompletes == Completes::nothing) {
         lines += fmt::format("complete -c tamble -n {} -f", condition);
         if (!command.operandWords.empty()) {
-            lines += fmt::format(" -a {}", fishQuoted(fmt::format("{}", fmt::join(command.operandWords, " "))));
+            lines +=
+                fmt::format(" -a {}", fishQuoted(fmt::format("{}", fmt::join(command.operandWords, " "))));
         }
         lines += '\n';
     }
