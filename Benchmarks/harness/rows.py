@@ -9,7 +9,7 @@ from . import checks, programs
 
 OURS = "tamble"
 
-# GPS tags that exiv2 has to be told one by one.
+# exiv2 has to be told the tags one by one.
 EXIV2_LOCATION = [
     f"-Mdel Exif.GPSInfo.{tag}"
     for tag in (
@@ -19,7 +19,9 @@ EXIV2_LOCATION = [
         "GPSDestBearingRef GPSDestBearing GPSDestDistanceRef GPSDestDistance GPSProcessingMethod GPSAreaInformation "
         "GPSDateStamp GPSDifferential GPSHPositioningError"
     ).split()
-] + [f"-Mdel Xmp.exif.{tag}" for tag in ("GPSLatitude", "GPSLongitude")]
+] + [
+    f"-Mdel {tag}" for tag in ("Xmp.exif.GPSLatitude", "Xmp.exif.GPSLongitude", "Xmp.photoshop.City", "Iptc.Application2.City")
+]
 EXIFTOOL_LOCATION = ["-gps:all=", "-xmp-exif:gps*=", "-xmp-photoshop:city=", "-iptc:city="]
 
 
