@@ -1,17 +1,19 @@
 # The picture libraries: loaded on first use, because starting them costs more than most commands take.
 pkg_check_modules(VIPS REQUIRED IMPORTED_TARGET vips-cpp)
 pkg_check_modules(WEBP REQUIRED IMPORTED_TARGET libwebp libwebpmux)
+pkg_check_modules(ZLIB REQUIRED IMPORTED_TARGET zlib)
 pkg_check_modules(TURBOJPEG REQUIRED IMPORTED_TARGET libturbojpeg)
+pkg_check_modules(LCMS REQUIRED IMPORTED_TARGET lcms2)
+pkg_check_modules(RAW REQUIRED IMPORTED_TARGET libraw_r)
 pkg_check_modules(EXIV2 REQUIRED IMPORTED_TARGET exiv2)
 
 file(GLOB_RECURSE image_sources CONFIGURE_DEPENDS
     Sources/TambleCore/Images/Codec/*.cpp
     Sources/TambleCore/Images/Metadata/*.cpp
     Sources/TambleCore/Images/Lossless/*.cpp)
-if(image_sources)
-    add_library(TambleImages SHARED ${image_sources})
-    target_precompile_headers(TambleImages PRIVATE Sources/TambleCore/Support/Precompiled.h)
-    target_link_libraries(TambleImages
-        PUBLIC TambleCore
-        PRIVATE tamble_options PkgConfig::VIPS PkgConfig::WEBP PkgConfig::TURBOJPEG PkgConfig::EXIV2)
-endif()
+add_library(TambleImages SHARED ${image_sources})
+target_precompile_headers(TambleImages PRIVATE <TambleCore/Support/Precompiled.h>)
+target_link_libraries(TambleImages
+    PUBLIC TambleCore
+    PRIVATE tamble_options PkgConfig::VIPS PkgConfig::WEBP PkgConfig::TURBOJPEG PkgConfig::LCMS PkgConfig::RAW
+            PkgConfig::EXIV2 PkgConfig::ZLIB)

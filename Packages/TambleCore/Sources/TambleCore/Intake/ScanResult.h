@@ -36,7 +36,12 @@ struct ScanResult {
     int skippedPackageCount = 0;
     int skippedLinkCount = 0;
     int unreadableCount = 0;
+    /// Dropped folders that could not be listed or in which nothing was found, neither taken nor skipped.
+    int emptyFolderCount = 0;
     std::int64_t totalBytes = 0;
 };
+
+/// What people are told after a drop about items that were left out; empty when nothing was.
+std::vector<std::string> scanNotes(const ScanResult& result);
 
 }  // namespace tamble

@@ -46,7 +46,6 @@ constexpr auto signatures = std::to_array<Signature>({
     {0, "#?RADIANCE"sv, "public.radiance"},
     {0, "%PDF-"sv, "com.adobe.pdf"},
     {0, "{\\rtf"sv, "public.rtf"},
-    {0, "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1"sv, "com.microsoft.word.doc"},
     {30, "mimetypeapplication/vnd.oasis.opendocument.text"sv, "org.oasis-open.opendocument.text"},
     {0, "WEBVTT"sv, "org.w3.webvtt"},
     {0, "fLaC"sv, "org.xiph.flac"},

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tamble {
 
@@ -20,6 +22,8 @@ class FinderOrder {
     std::string sortKey(std::string_view name) const;
     /// Negative, zero or positive as `a` stands before, at or after `b`.
     int compare(std::string_view a, std::string_view b) const;
+    /// The indices of the names in this order; names that stand at the same place follow each other by their bytes.
+    std::vector<std::size_t> sorted(std::span<const std::string_view> names) const;
 
   private:
     class Collation;

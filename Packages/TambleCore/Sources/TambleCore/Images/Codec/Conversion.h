@@ -1,0 +1,28 @@
+#pragma once
+
+#include <TambleCore/Images/Codec/Container.h>
+#include <TambleCore/Images/ImageJobSettings.h>
+#include <TambleCore/Support/WorkContext.h>
+
+namespace tamble {
+
+/// One picture on its way through the image tools.
+struct Conversion {
+    ByteView file;
+    Container container;
+    ImageFormat format;
+    const ImageJobSettings& settings;
+    const WorkContext& context;
+
+    bool keepsFormat() const { return imageFormat(container) == format; }
+
+    /// The new file's content. Throws ConversionError; Cancelled.
+    Bytes result() const;
+
+  private:
+    /// Without decoding the picture, where what is asked for and the file allow it.
+    std::optional<Bytes> edited() const;
+    Bytes encoded() const;
+};
+
+}  // namespace tamble

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <TambleCore/Images/Codec/Watch.h>
+#include <TambleCore/Images/Metadata/Metadata.h>
+
+namespace tamble {
+
+/// How a picture is to be encoded.
+struct Encoding {
+    /// The lossy formats' compression factor, 0…1.
+    double factor = 0.8;
+    /// Take more time for a smaller file.
+    bool smallest = false;
+    /// WebP only: keep every pixel as it is.
+    bool lossless = false;
+};
+
+// Each answers the encoded picture without any metadata or profile, or throws vips::VError when the pixels
+// cannot be computed and ConversionError when they cannot be encoded.
+
+Bytes encodedJpeg(const vips::VImage& image, const Encoding& encoding);
+Bytes encodedPng(const vips::VImage& image, const Encoding& encoding);
+Bytes encodedTiff(const vips::VImage& image);
+Bytes encodedGif(const vips::VImage& image);
+/// `image` is 8-bit RGB or RGBA in sRGB. ConversionError::tooLargeForWebP for a side above 16383 pixels.
+Bytes encodedWebP(const vips::VImage& image, const Encoding& encoding, const Watch& watch);
+
+/// HEIC or AVIF with EXIF, XMP and profile, which only their own writer can put in.
+Bytes encodedHeif(const vips::VImage& image, ImageFormat format, const Encoding& encoding,
+                  const MetadataBlocks& blocks);
+
+}  // namespace tamble

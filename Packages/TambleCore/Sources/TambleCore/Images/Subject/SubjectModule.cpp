@@ -1,0 +1,6 @@
+#include "ContrastSubjectMask.h"
+
+extern "C" const tamble::SubjectMask* tambleSubjectMask() {
+    static const tamble::ContrastSubjectMask mask;
+    return &mask;
+}

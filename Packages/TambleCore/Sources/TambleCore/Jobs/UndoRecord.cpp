@@ -1,0 +1,120 @@
+#include <TambleCore/Jobs/UndoRecord.h>
+#include <TambleCore/Support/Log.h>
+#include <TambleCore/Support/PathKey.h>
+#include <TambleCore/Support/UUID.h>
+
+#include <ranges>
+#include <unordered_map>
+
+namespace tamble {
+namespace {
+
+constexpr Log engineLog("engine");
+
+/// Takes one record back; each step counts itself.
+class Undo {
+  public:
+    Undo(const UndoRecord& record, FileOperations& fileOps) : record_(record), fileOps_(fileOps) {}
+
+    UndoReport run() {
+        removeOutputs();
+        restoreFromBin();
+        renameBack();
+        removeFolders();
+        engineLog.notice("Undo: {} outputs removed, {} restored, {} kept (changed), {} problems",
+                         report_.removedOutputs, report_.restoredItems, report_.keptBecauseChanged,
+                         report_.problems);
+        return report_;
+    }
+
+  private:
+    /// What these steps throw counts as a problem.
+    template <typename Step>
+    bool succeeds(const Step& step) {
+        try {
+            step();
+            return true;
+        } catch (const std::exception&) {
+            ++report_.problems;
+            return false;
+        }
+    }
+
+    void removeOutputs() {
+        std::unordered_map<std::string, FileFingerprint> expected;
+        for (const auto& [key, fingerprint] : record_.createdFingerprints) {
+            expected.emplace(pathKey(pathFromFileURL(key).value_or(key)), fingerprint);
+        }
+        for (const auto& output : record_.createdFiles) {
+            const auto current = FileFingerprint::of(output);
+            if (!current) continue;
+            const auto recorded = expected.find(pathKey(output));
+            if (recorded == expected.end() || !(recorded->second == *current)) {
+                ++report_.keptBecauseChanged;
+                engineLog.notice("Undo kept a file that changed after the job");
+                continue;
+            }
+            if (succeeds([&] { fileOps_.remove(standardized(output)); })) ++report_.removedOutputs;
+        }
+    }
+
+    /// The last first: what went to the Bin after a folder's own files may be the folder.
+    void restoreFromBin() {
+        for (const auto& item : record_.trashedItems | std::views::reverse) {
+            const bool isBack = succeeds([&] {
+                makeFolderOf(item.original);
+                fileOps_.move(item.inTrash, item.original);
+            });
+            if (isBack) ++report_.restoredItems;
+        }
+    }
+
+    void makeFolderOf(const std::filesystem::path& item) {
+        const std::filesystem::path folder = standardized(item).parent_path();
+        if (!std::filesystem::exists(folder)) fileOps_.createDirectory(folder);
+    }
+
+    /// In two passes, so that names swapped among the files are free when they are needed.
+    void renameBack() {
+        struct Parked {
+            const RenamedItem* item;
+            std::filesystem::path place;
+        };
+        std::vector<Parked> parked;
+        for (const auto& item : record_.renamedItems) {
+            std::filesystem::path place = standardized(item.to).parent_path() / (".tamble-undo-" + newUUID());
+            if (succeeds([&] { fileOps_.move(item.to, place); })) parked.push_back({&item, std::move(place)});
+        }
+        for (const auto& [item, place] : parked) {
+            if (succeeds([&] { fileOps_.move(place, item->from); })) {
+                ++report_.restoredItems;
+            } else {
+                engineLog.error(
+                    "Undo couldn't put a renamed file back; it is at a temporary name in its folder");
+            }
+        }
+    }
+
+    /// A folder that holds something by now stays, and so do those above it.
+    void removeFolders() {
+        if (!record_.createdFolders) return;
+        for (const auto& folder : *record_.createdFolders | std::views::reverse) {
+            try {
+                fileOps_.removeEmptyDirectory(folder);
+            } catch (const std::exception&) {
+            }
+        }
+    }
+
+    const UndoRecord& record_;
+    FileOperations& fileOps_;
+    UndoReport report_;
+};
+
+}  // namespace
+
+UndoReport apply(const UndoRecord& record, FileOperations& fileOps) {
+    return Undo(record, fileOps).run();
+}
+
+}  // namespace tamble

@@ -1,0 +1,63 @@
+#include <TambleCore/Platform/AtomicFile.h>
+#include <TambleCore/Platform/FileDescriptor.h>
+#include <TambleCore/Platform/SystemError.h>
+#include <TambleCore/Support/UUID.h>
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tamble {
+namespace {
+
+void writeNewFile(const std::filesystem::path& path, std::string_view content) {
+    const FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (!file) throwLastError("cannot write", path);
+    while (!content.empty()) {
+        const ssize_t count = ::write(file.number(), content.data(), content.size());
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) throwLastError("cannot write", path);
+        content.remove_prefix(static_cast<std::size_t>(count));
+    }
+    if (::fsync(file.number()) != 0 && errno != EINVAL) throwLastError("cannot write", path);
+}
+
+}  // namespace
+
+void writeFileAtomically(const std::filesystem::path& file, std::string_view content) {
+    std::filesystem::create_directories(file.parent_path());
+    const std::filesystem::path fresh = file.parent_path() / ("." + newUUID());
+    try {
+        writeNewFile(fresh, content);
+        std::filesystem::rename(fresh, file);
+    } catch (...) {
+        ::unlink(fresh.c_str());
+        throw;
+    }
+    const FileDescriptor folder(::open(file.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder) static_cast<void>(::fsync(folder.number()));
+}
+
+std::string readWholeFile(const std::filesystem::path& path) {
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    struct stat properties {};
+    if (!file || ::fstat(file.number(), &properties) != 0) throwLastError("cannot read", path);
+    std::string content;
+    std::size_t filled = 0;
+    for (;;) {
+        if (filled == content.size()) {
+            content.resize(filled == 0 ? static_cast<std::size_t>(properties.st_size) + 1 : filled * 2);
+        }
+        const ssize_t count = ::read(file.number(), content.data() + filled, content.size() - filled);
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) throwLastError("cannot read", path);
+        if (count == 0) break;
+        filled += static_cast<std::size_t>(count);
+    }
+    content.resize(filled);
+    return content;
+}
+
+}  // namespace tamble
