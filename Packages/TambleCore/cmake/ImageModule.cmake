@@ -12,7 +12,7 @@ file(GLOB_RECURSE image_sources CONFIGURE_DEPENDS
     Sources/TambleCore/Images/Metadata/*.cpp
     Sources/TambleCore/Images/Lossless/*.cpp)
 add_library(TambleImages SHARED ${image_sources})
-target_precompile_headers(TambleImages PRIVATE Sources/TambleCore/Support/Precompiled.h)
+target_precompile_headers(TambleImages PRIVATE <TambleCore/Support/Precompiled.h>)
 target_link_libraries(TambleImages
     PUBLIC TambleCore
     PRIVATE tamble_options PkgConfig::VIPS PkgConfig::WEBP PkgConfig::JPEG PkgConfig::LCMS PkgConfig::RAW

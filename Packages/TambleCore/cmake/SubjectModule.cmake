@@ -2,7 +2,7 @@
 file(GLOB_RECURSE subject_sources CONFIGURE_DEPENDS Sources/TambleCore/Images/Subject/*.cpp)
 if(subject_sources)
     add_library(TambleSubject SHARED ${subject_sources})
-    target_precompile_headers(TambleSubject PRIVATE Sources/TambleCore/Support/Precompiled.h)
+    target_precompile_headers(TambleSubject PRIVATE <TambleCore/Support/Precompiled.h>)
     target_include_directories(TambleSubject SYSTEM PRIVATE /usr/include/opencv4)
     target_link_libraries(TambleSubject PUBLIC TambleCore PRIVATE tamble_options opencv_core opencv_imgproc opencv_dnn)
 endif()

@@ -14,6 +14,7 @@ ToolDefinition definition(ImageTool tool) {
     definition.schema = imageSettingsSchema();
     definition.panel = imagePanel(tool);
     definition.accepts = FileTypes::isReadableImage;
+    definition.unreadable = ConversionError(ConversionError::Case::unreadable);
     definition.estimate = [](std::span<const InputFile> files, const Json& settings, std::stop_token stop) {
         return SizeEstimator::estimateImages(files, decodeJson<ImageJobSettings>(settings),
                                              SizeEstimator::defaultSampleCount, std::move(stop));

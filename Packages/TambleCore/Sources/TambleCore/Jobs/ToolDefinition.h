@@ -2,6 +2,7 @@
 
 #include <TambleCore/Intake/FolderScanner.h>
 #include <TambleCore/Jobs/FileProcessor.h>
+#include <TambleCore/Support/Failure.h>
 #include <TambleCore/Support/Json/JsonCoding.h>
 #include <TambleCore/Support/Settings/OptionsPanel.h>
 #include <TambleCore/Support/Settings/SettingsSchema.h>
@@ -31,6 +32,9 @@ struct ToolDefinition {
 
     /// `settings` brought into the full form of the record: decoded and encoded once.
     std::function<Json(const Json& settings)> normalized;
+
+    /// The failure of an item whose file crashed, hung or exhausted the worker process that was reading it.
+    Failure unreadable{"unreadable", "Couldn't open this file. It may be damaged."};
 };
 
 /// The definition of a tool whose settings are the described record `Settings`, with what only the tool

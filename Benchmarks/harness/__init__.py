@@ -1,0 +1,1 @@
+"""Measures Tamble side by side with the programs people would use instead."""

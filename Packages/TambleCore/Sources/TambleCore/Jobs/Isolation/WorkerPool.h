@@ -1,0 +1,80 @@
+#pragma once
+
+#include <TambleCore/Jobs/Isolation/WorkerMessage.h>
+#include <TambleCore/Support/Failure.h>
+#include <TambleCore/Support/WorkContext.h>
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+namespace tamble {
+
+class WorkerProcess;
+
+struct WorkerLimits {
+    /// How long a worker may take to end its work after a stop request, before it is killed.
+    std::chrono::milliseconds stopping{2000};
+    /// How long a worker may neither report nor use the processor: it waits for something that never comes.
+    std::chrono::milliseconds idle{std::chrono::minutes(2)};
+    /// How much processor time a worker may use without reporting: it turns in circles. Encoding the largest
+    /// pictures takes a few minutes and cannot report.
+    std::chrono::milliseconds processor{std::chrono::minutes(15)};
+    /// How long a worker may take to start.
+    std::chrono::milliseconds starting{std::chrono::seconds(30)};
+    /// Bytes of memory for each worker.
+    std::uint64_t memory = defaultMemory();
+
+    /// Half of the machine's memory, within 1…4 GiB.
+    static std::uint64_t defaultMemory();
+};
+
+/// A worker died, hung or answered nonsense; it has been ended.
+class WorkerLost : public std::exception {
+  public:
+    explicit WorkerLost(std::string detail);
+    ~WorkerLost() override;
+    const char* what() const noexcept override { return detail_.c_str(); }
+
+  private:
+    std::string detail_;
+};
+
+/// No worker can be started: the program is not completely installed, or the machine is out of processes.
+class WorkerUnavailable : public Failure {
+  public:
+    explicit WorkerUnavailable(std::string detail);
+    ~WorkerUnavailable() override;
+};
+
+/// The worker processes of an application. Started when first needed, as many as calls at the same time;
+/// each serves one call at a time and is used again for the next. They end with the pool.
+class WorkerPool {
+  public:
+    /// An empty `program` stands for the one that workerExecutable() finds.
+    explicit WorkerPool(WorkerLimits limits = {}, std::filesystem::path program = {});
+    ~WorkerPool();
+    WorkerPool(const WorkerPool&) = delete;
+    WorkerPool& operator=(const WorkerPool&) = delete;
+
+    /// Has a worker do the request and answers its last reply. The worker may write only below `writable`, or
+    /// nowhere if that is empty. Throws WorkerLost, WorkerUnavailable, and Cancelled when a stop request had
+    /// to be enforced. To be called from several threads.
+    WorkerReply perform(const WorkerRequest& request, const std::filesystem::path& writable,
+                        const WorkContext& context);
+
+  private:
+    std::unique_ptr<WorkerProcess> take(const std::filesystem::path& writable);
+    std::unique_ptr<WorkerProcess> startWorker(const std::filesystem::path& writable) const;
+    void giveBack(std::unique_ptr<WorkerProcess> worker);
+
+    WorkerLimits limits_;
+    std::filesystem::path program_;
+    std::mutex mutex_;
+    std::vector<std::unique_ptr<WorkerProcess>> idle_;
+};
+
+}  // namespace tamble
