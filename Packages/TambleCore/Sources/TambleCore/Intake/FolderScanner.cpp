@@ -9,7 +9,7 @@ ScanOptions::ScanOptions(bool entersSubfolders)
     : includeSubfolders(entersSubfolders), accepts(FileTypes::isReadableImage) {}
 
 ScanResult FolderScanner::scan(std::span<const std::filesystem::path> urls) const {
-    Builder builder(options);
+    Builder builder(options, urls.size());
     for (const auto& url : urls) builder.visit(url);
     ScanResult result = std::move(builder).result();
     Log("intake").notice("Scanned {} files, {} others, {} unreadable", result.files.size(),

@@ -76,7 +76,7 @@ void FolderScanner::Builder::walk(int parent, const char* name, FolderNode& node
         return;
     }
     std::vector<std::string_view> subfolders;
-    Names& taken = takenFrom(node.url);
+    Names* const taken = mayRepeat(node, *listing) ? &takenFrom(node.url) : nullptr;
     for (const std::size_t index : order_.sorted(listing->names())) {
         const auto item = listing->name(index);
         switch (listing->kind(index)) {
@@ -122,7 +122,7 @@ void FolderScanner::Builder::walkSubfolder(int parent, const char* name, FolderN
 }
 
 void FolderScanner::Builder::takeFile(int parent, std::string_view name, FolderNode& node,
-                                      const std::filesystem::path& root, Names& taken) {
+                                      const std::filesystem::path& root, Names* taken) {
     const Verdict& found = verdict(parent, name);
     if (!found.isAccepted) {
         ++result_.otherFileCount;
@@ -133,14 +133,25 @@ void FolderScanner::Builder::takeFile(int parent, std::string_view name, FolderN
         ++result_.unreadableCount;
         return;
     }
-    if (!taken.insert(precomposed(name)).second) return;
-    result_.files.push_back({.url = node.url / name,
+    if (taken != nullptr && !taken->insert(precomposed(name)).second) return;
+    // Joined as text: a path takes every component apart, and so does it once instead of twice.
+    std::string url;
+    url.reserve(node.url.native().size() + 1 + name.size());
+    url += node.url.native();
+    if (url.back() != '/') url += '/';
+    url += name;
+    result_.files.push_back({.url = std::move(url),
                              .root = root,
                              .relativeFolder = node.relativePath,
                              .byteSize = properties.byteSize,
                              .contentType = found.type});
     result_.totalBytes += properties.byteSize;
     ++node.fileCount;
+}
+
+bool FolderScanner::Builder::mayRepeat(const FolderNode& node, const DirectoryListing& listing) const {
+    // Within one dropped folder only two spellings of one Unicode name give equal keys.
+    return dropCount_ > 1 || !isASCII(node.relativePath) || !std::ranges::all_of(listing.names(), isASCII);
 }
 
 FolderScanner::Builder::Verdict FolderScanner::Builder::verdict(int parent, std::string_view name) {

@@ -14,7 +14,8 @@ namespace tamble {
 /// The walk of one scan and what it has gathered so far.
 class FolderScanner::Builder {
   public:
-    explicit Builder(const ScanOptions& options) : options_(options) {}
+    /// `dropCount` items will be visited.
+    Builder(const ScanOptions& options, std::size_t dropCount) : options_(options), dropCount_(dropCount) {}
 
     void visit(const std::filesystem::path& url);
     ScanResult result() && { return std::move(result_); }
@@ -41,14 +42,18 @@ class FolderScanner::Builder {
     void walkSubfolder(int parent, const char* name, FolderNode& parentNode,
                        const std::filesystem::path& root);
     void takeFile(int parent, std::string_view name, FolderNode& node, const std::filesystem::path& root,
-                  Names& taken);
+                  Names* taken);
 
     /// By the extension of the name; the file is looked into when there is none.
     Verdict verdict(int parent, std::string_view name);
     /// The keys of the names taken from this folder so far; the reference stays good.
     Names& takenFrom(const std::filesystem::path& folder);
 
+    /// Whether files of this folder could have the key of another file in this scan.
+    bool mayRepeat(const FolderNode& node, const DirectoryListing& listing) const;
+
     const ScanOptions& options_;
+    std::size_t dropCount_;
     ScanResult result_;
     FinderOrder order_;
     MapByText<Verdict> verdicts_;

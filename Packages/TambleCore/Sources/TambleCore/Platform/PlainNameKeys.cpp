@@ -1,6 +1,6 @@
 #include <TambleCore/Platform/PlainNameKeys.h>
+#include <TambleCore/Support/Text.h>
 
-#include <algorithm>
 #include <map>
 
 namespace tamble {
@@ -28,8 +28,7 @@ PlainNameKeys::PlainNameKeys(const std::function<std::string(std::string_view)>&
 
 bool PlainNameKeys::isPlain(std::string_view name) {
     // The length of a number must fit a byte, as collations take longer numbers apart.
-    return name.size() < 255 &&
-           std::ranges::all_of(name, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    return name.size() < 255 && isASCII(name);
 }
 
 void PlainNameKeys::append(std::string_view name, std::string& key) const {

@@ -14,10 +14,6 @@
 namespace tamble {
 namespace {
 
-bool isASCII(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
 bool isUTF8(std::string_view text) {
     const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
     const auto length = static_cast<std::int32_t>(text.size());
@@ -40,6 +36,10 @@ std::string withASCIILowered(std::string_view text) {
 }
 
 }  // namespace
+
+bool isASCII(std::string_view text) {
+    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
 
 std::string precomposed(std::string_view text) {
     if (isASCII(text) || !isUTF8(text)) return std::string(text);

@@ -5,6 +5,8 @@
 
 namespace tamble {
 
+bool isASCII(std::string_view text);
+
 /// Canonical precomposed Unicode (NFC). Bytes that are not UTF-8 come back unchanged, so that any file name
 /// can be a key.
 std::string precomposed(std::string_view text);
