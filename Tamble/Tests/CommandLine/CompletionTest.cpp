@@ -37,6 +37,8 @@ TEST(Completion, BashAnswersWords) {
     EXPECT_EQ(bashAnswers(home, "tamble image.convert --output convert:we"), "webp");
     EXPECT_EQ(bashAnswers(home, "tamble image.convert --save "), "next replace");
     EXPECT_EQ(bashAnswers(home, "tamble image.convert b"), "");
+    EXPECT_EQ(bashAnswers(home, "tamble estimate image.conv"), "image.convert");
+    EXPECT_EQ(bashAnswers(home, "tamble estimate image.convert --to we"), "webp");
 }
 
 TEST(Completion, EveryShellReadsItsScript) {
