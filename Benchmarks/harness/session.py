@@ -27,8 +27,8 @@ def _warm(folder: Path) -> None:
 
 
 def _is_there(contender, inputs) -> bool:
-    ours = [part for part in (inputs.tamble, inputs.bench) if part in contender.command(inputs, Path("out"))]
-    return all(map(programs.is_installed, contender.needs)) and all(part.exists() for part in ours)
+    program = Path(_command(contender, inputs, Path("output"))[0])
+    return all(map(programs.is_installed, contender.needs)) and program.exists()
 
 
 def run_row(row, inputs, warm_folder: Path | None, runs: int, work: Path, say) -> str:

@@ -14,7 +14,8 @@ def tree(cache: Path, folders: int, files_each: int, largest: int) -> Path:
     shutil.rmtree(unfinished, ignore_errors=True)
     chance = random.Random(9)
     content = chance.randbytes(largest)
-    patterns = ("IMG_{}.jpg", "Scan {}.png", "Photo {} copy.jpeg", "notes-{}.txt", "Clip {}.mp4")
+    # All of kinds that every scan takes, so that all find the same.
+    patterns = ("IMG_{}.jpg", "Scan {}.png", "Photo {} copy.jpeg", "shot-{}.webp", "DSC{}.tiff")
     for number in range(folders):
         folder = unfinished / f"Roll {number // 50 + 1}" / f"Day {number + 1}"
         folder.mkdir(parents=True)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Tamble/Model/ActivityEntry.h>
+#include <Tamble/Model/SharedFile.h>
 
 #include <TambleCore/Jobs/JobEngine.h>
 
@@ -43,11 +44,12 @@ class ActivityStore {
 
   private:
     using Change = std::function<void(std::vector<ActivityEntry>&)>;
+    std::optional<std::vector<ActivityEntry>> entriesOnDisk() const;
     void merge(const Change& change);
     void changed() const;
 
     JobEngine engine_;
-    std::filesystem::path fileURL_;
+    SharedFile file_;
     std::vector<ActivityEntry> entries_;
     std::set<std::string> undoingIDs_;
     std::set<std::string> undoneIDs_;

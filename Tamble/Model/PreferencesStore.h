@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Tamble/Model/SharedFile.h>
+
 #include <TambleCore/Jobs/SavePreferences.h>
 
 namespace tamble {
@@ -26,9 +28,10 @@ class PreferencesStore {
 
   private:
     Json read() const;
-    void set(const std::string& key, Json value);
+    SavePreferences read(const char* key, SavePreferences otherwise) const;
+    void set(const char* key, Json value) const;
 
-    std::filesystem::path fileURL_;
+    SharedFile file_;
 };
 
 }  // namespace tamble

@@ -160,7 +160,8 @@ std::string flagsFor(const SettingsSchema& schema, const Json& changes) {
     for (const auto& [name, value] : changes.items()) {
         const SettingField* field = schema.fieldNamed(name);
         if (field == nullptr) continue;
-        flags += (flags.empty() ? "" : " ") + flagFor(*field, value);
+        if (!flags.empty()) flags += ' ';
+        flags += flagFor(*field, value);
     }
     return flags;
 }

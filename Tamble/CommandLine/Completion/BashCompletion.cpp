@@ -32,6 +32,10 @@ _tamble() {
         word=${word#*=}
     fi
     local command=${COMP_WORDS[1]}
+    # Behind its tool, an estimate takes what the tool takes.
+    if [[ $command == estimate ]] && ((COMP_CWORD > 2)); then
+        command=${COMP_WORDS[2]}
+    fi
     if ((COMP_CWORD == 1)); then
 )sh";
 

@@ -2,6 +2,8 @@
 #include <TambleCore/Support/NameFitting.h>
 #include <TambleCore/Support/Text.h>
 
+#include <fmt/format.h>
+
 #include <algorithm>
 
 namespace tamble::FileNames {
@@ -33,9 +35,7 @@ std::string safe(std::string_view name) {
 }
 
 std::string suffixed(std::string_view stem, std::string_view suffix, std::string_view extension) {
-    std::string tail(suffix);
-    if (!extension.empty()) tail.append(".").append(extension);
-    return fittedName(stem, tail);
+    return fittedName(stem, fmt::format("{}{}{}", suffix, extension.empty() ? "" : ".", extension));
 }
 
 std::string joined(std::string_view stem, std::string_view extension) {
@@ -44,9 +44,7 @@ std::string joined(std::string_view stem, std::string_view extension) {
 
 std::string numbered(const std::string& name, int number) {
     const SplitName parts = split(name);
-    std::string tail = " " + std::to_string(number);
-    tail += parts.extension;
-    return fittedName(parts.stem, tail).append(parts.slash);
+    return fittedName(parts.stem, fmt::format(" {}{}", number, parts.extension)).append(parts.slash);
 }
 
 std::string fitted(const std::string& name) {

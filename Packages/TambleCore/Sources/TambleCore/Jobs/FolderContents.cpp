@@ -11,8 +11,8 @@ std::string nameKey(const std::string& name) {
 
 }  // namespace
 
-std::optional<std::filesystem::path> FolderContents::existing(const std::filesystem::path& path,
-                                                              const std::optional<std::filesystem::path>& isNot) {
+std::optional<std::filesystem::path> FolderContents::existing(
+    const std::filesystem::path& path, const std::optional<std::filesystem::path>& isNot) {
     const std::filesystem::path place = standardized(path);
     const std::filesystem::path folder = place.parent_path();
     const std::string name = place.filename().native();
@@ -50,7 +50,8 @@ FolderContents::Names& FolderContents::namesIn(const std::filesystem::path& fold
     const auto [found, isNew] = folders_.try_emplace(folder.native());
     Names& names = found->second;
     if (!isNew) return names;
-    // A folder that is missing has no names; one that cannot be read shows at the move, which never overwrites.
+    // A folder that is missing has no names; one that cannot be read shows at the move, which never
+    // overwrites.
     std::error_code error;
     for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {

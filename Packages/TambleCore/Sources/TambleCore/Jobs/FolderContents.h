@@ -7,11 +7,12 @@
 
 namespace tamble {
 
-/// Which names are taken, by key: each folder is read once, then kept up to date by those who change it, so that
-/// names that differ only in letter case or composition are the same on every file system.
+/// Which names are taken, by key: each folder is read once, then kept up to date by those who change it, so
+/// that names that differ only in letter case or composition are the same on every file system.
 class FolderContents {
   public:
-    /// What stands at the path, under any spelling of its name; the exact spelling first. `isNot` is passed over.
+    /// What stands at the path, under any spelling of its name; the exact spelling first. `isNot` is passed
+    /// over.
     std::optional<std::filesystem::path> existing(const std::filesystem::path& path,
                                                   const std::optional<std::filesystem::path>& isNot = {});
 

@@ -2,8 +2,6 @@
 
 #include <TambleCore/Jobs/JobPlan.h>
 
-#include <span>
-
 namespace tamble {
 
 /// One output about to be saved.
@@ -21,10 +19,11 @@ class JobJournal {
   public:
     virtual ~JobJournal() = default;
 
-    /// The whole plan, once, before anything outside the staging folders changes.
-    virtual void willSave(std::span<const PlannedSave> plan) = 0;
-    /// An output goes elsewhere than planned, because the disk is not as it was.
-    virtual void willSaveInstead(const PlannedSave& save) = 0;
+    /// Called for every output before anything outside the staging folders changes, which is the whole plan;
+    /// and again for an output that has to go elsewhere, because the disk is not as it was.
+    virtual void willSave(const PlannedSave& save) = 0;
+    /// The plan is complete, and the next call tells of a change.
+    virtual void willBeginSaving() = 0;
     virtual void didCreateFolder(const std::filesystem::path& folder) = 0;
     virtual void didTrash(const TrashedItem& item) = 0;
     /// A file came back from the Bin, because its item could not be saved.

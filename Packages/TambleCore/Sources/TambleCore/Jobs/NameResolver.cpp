@@ -36,7 +36,8 @@ NameResolver::Decision NameResolver::resolve(const std::filesystem::path& target
     return Use{takeNumbered(target, exists)};
 }
 
-std::filesystem::path NameResolver::takeNumbered(const std::filesystem::path& target, const ExistsTest& exists) {
+std::filesystem::path NameResolver::takeNumbered(const std::filesystem::path& target,
+                                                 const ExistsTest& exists) {
     const auto [folder, name] = parted(target);
     int& next = nextNumbers_.try_emplace(pathKey(target), 2).first->second;
     for (;; ++next) {

@@ -19,7 +19,8 @@ const std::filesystem::path& originalOf(const InputFile& file) {
 
 std::filesystem::path OutputPlanner::intendedURL(const InputFile& file, const std::string& outputName) const {
     const std::string name = FileNames::fitted(outputName);
-    if (const auto* chosen = std::get_if<location::Folder>(&location)) return folderInside(*chosen, file) / name;
+    if (const auto* chosen = std::get_if<location::Folder>(&location))
+        return folderInside(*chosen, file) / name;
     return originalOf(file).parent_path() / name;
 }
 

@@ -43,7 +43,10 @@ void ProgressTracker::sendProcessing(Clock::time_point now) {
     lastSent_ = now;
     double partial = 0;
     for (const auto& [index, fraction] : partials_) partial += fraction;
-    sendNow({.phase = JobProgress::Phase::processing, .completed = completed_, .total = total_, .partial = partial});
+    sendNow({.phase = JobProgress::Phase::processing,
+             .completed = completed_,
+             .total = total_,
+             .partial = partial});
 }
 
 void ProgressTracker::sendNow(const JobProgress& progress) const {

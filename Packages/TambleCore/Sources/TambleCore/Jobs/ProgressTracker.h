@@ -10,8 +10,9 @@
 
 namespace tamble {
 
-/// Makes one stream of progress messages of what many threads report about their items. Messages of items in flight
-/// are sent at most every 0.1 s; the end of an item always is. Thread-safe; sends one message at a time.
+/// Makes one stream of progress messages of what many threads report about their items. Messages of items in
+/// flight are sent at most every 0.1 s; the end of an item always is. Thread-safe; sends one message at a
+/// time.
 class ProgressTracker {
   public:
     ProgressTracker(int total, ProgressCallback send);

@@ -9,14 +9,15 @@
 
 namespace tamble {
 
-/// Settles where the outputs of one job go and what goes to the Bin for them, one after the other, as if each had
-/// been saved when the next is asked for. Reads folders, changes nothing.
+/// Settles where the outputs of one job go and what goes to the Bin for them, one after the other, as if each
+/// had been saved when the next is asked for. Reads folders, changes nothing.
 class SavePlanner {
   public:
     enum class Originals { mayBeReplaced, stay };
 
-    /// With Originals::stay no input of the job is ever planned to go to the Bin. The files must outlive the planner.
-    SavePlanner(SaveLocation location, ClashPolicy policy, Originals originals, std::span<const InputFile> files);
+    /// With Originals::stay no input of the job is ever planned to go to the Bin.
+    SavePlanner(SaveLocation location, ClashPolicy policy, Originals originals,
+                std::span<const InputFile> files);
 
     using Decision = std::variant<Placement, outcome::Skipped>;
     Decision next(const InputFile& file, const std::string& outputName);
@@ -28,25 +29,22 @@ class SavePlanner {
 
   private:
     std::optional<std::filesystem::path> originalToTrash(const InputFile& file) const;
-    bool mustStay(const std::filesystem::path& existing, const std::filesystem::path& target);
+    bool mustStay(const std::filesystem::path& existing, const std::filesystem::path& target) const;
     void plan(const Placement& placement);
+    void useFoldersAbove(const std::filesystem::path& path);
     ExistsTest existsTest();
 
     OutputPlanner outputs_;
     ClashPolicy policy_;
     Originals originals_;
-    std::span<const InputFile> files_;
     FolderContents contents_;
     NameResolver names_;
     /// What the job sends to the Bin: never asked for twice.
     std::unordered_set<std::string> trashed_;
-    /// Folders that hold an input or an output of the job; the inputs' are gathered when first needed.
-    std::unordered_set<std::string> foldersInUse_;
+    /// The inputs, and the folders that hold an input or an output of the job: known where files may be
+    /// replaced.
     std::unordered_set<std::string> inputs_;
-    bool hasGatheredInputs_ = false;
-
-    void gatherInputs();
-    void useFoldersAbove(const std::filesystem::path& path);
+    std::unordered_set<std::string> foldersInUse_;
 };
 
 }  // namespace tamble

@@ -2,9 +2,9 @@
 #include <TambleCore/Platform/StandardFolders.h>
 #include <TambleCore/Support/Text.h>
 
-#include <fmt/format.h>
-
 #include <ctime>
+
+#include <fmt/format.h>
 
 namespace tamble {
 
@@ -38,19 +38,22 @@ SaveLocation SavePreferences::saveLocation(std::chrono::year_month_day day) cons
     }
     const auto chosen = folder();
     const std::filesystem::path base = chosen ? *chosen : folders::downloads() / "Tamble";
-    return location::Folder{.value = addDateFolder ? dateFolder(base, day) : base, .keepStructure = keepStructure};
+    return location::Folder{.value = addDateFolder ? dateFolder(base, day) : base,
+                            .keepStructure = keepStructure};
 }
 
 std::chrono::year_month_day today() {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     ::localtime_r(&now, &local);
-    return {std::chrono::year(local.tm_year + 1900), std::chrono::month(static_cast<unsigned>(local.tm_mon) + 1),
+    return {std::chrono::year(local.tm_year + 1900),
+            std::chrono::month(static_cast<unsigned>(local.tm_mon) + 1),
             std::chrono::day(static_cast<unsigned>(local.tm_mday))};
 }
 
 std::filesystem::path dateFolder(const std::filesystem::path& folder, std::chrono::year_month_day day) {
-    return folder / fmt::format("{:04}-{:02}-{:02}", int{day.year()}, unsigned{day.month()}, unsigned{day.day()});
+    return folder /
+           fmt::format("{:04}-{:02}-{:02}", int{day.year()}, unsigned{day.month()}, unsigned{day.day()});
 }
 
 }  // namespace tamble

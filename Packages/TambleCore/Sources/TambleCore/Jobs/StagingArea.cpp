@@ -19,22 +19,41 @@ std::filesystem::path folderOf(const std::filesystem::path& target) {
 
 }  // namespace
 
-StagingArea::~StagingArea() = default;
-
-std::filesystem::path StagingArea::placeFor(std::size_t index, const std::filesystem::path& target) {
-    const std::filesystem::path folder = folderNear(target).path() / std::to_string(index);
-    if (::mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST) throwLastError("cannot create", folder);
-    return folder / standardized(target).filename();
+std::filesystem::path StagingArea::makePlace(std::size_t index, const std::filesystem::path& target) {
+    const StagingFolder& folder = folderNear(target);
+    const std::filesystem::path own = itemFolder(folder, index);
+    if (::mkdir(own.c_str(), 0700) != 0) throwLastError("cannot create", own);
+    const std::filesystem::path name = standardized(target).filename();
+    const std::scoped_lock guard(lock_);
+    items_[index] = {&folder, name.native()};
+    return own / name;
 }
 
-std::filesystem::path StagingArea::existingPlaceFor(std::size_t index, const std::filesystem::path& target) const {
-    return itemFolder(index, target) / standardized(target).filename();
+std::filesystem::path StagingArea::placeOf(std::size_t index) const {
+    const std::scoped_lock guard(lock_);
+    const Item& item = items_.at(index);
+    return itemFolder(*item.folder, index) / item.name;
 }
 
-void StagingArea::discard(std::size_t index, const std::filesystem::path& target) {
-    const std::filesystem::path folder = itemFolder(index, target);
+void StagingArea::discard(std::size_t index) {
+    std::filesystem::path own;
+    {
+        const std::scoped_lock guard(lock_);
+        const auto item = items_.find(index);
+        if (item == items_.end()) return;
+        own = itemFolder(*item->second.folder, index);
+        items_.erase(item);
+    }
+    // What is still there goes with the staging folder.
     std::error_code ignored;
-    if (!folder.empty()) std::filesystem::remove_all(folder, ignored);
+    std::filesystem::remove_all(own, ignored);
+}
+
+void StagingArea::removeAll() {
+    const std::scoped_lock guard(lock_);
+    items_.clear();
+    known_.clear();
+    volumes_.clear();
 }
 
 const StagingFolder& StagingArea::folderNear(const std::filesystem::path& target) {
@@ -60,10 +79,8 @@ const StagingFolder& StagingArea::folderNear(const std::filesystem::path& target
     return found->folder;
 }
 
-std::filesystem::path StagingArea::itemFolder(std::size_t index, const std::filesystem::path& target) const {
-    const std::scoped_lock guard(lock_);
-    const auto found = known_.find(folderOf(target).native());
-    return found == known_.end() ? std::filesystem::path() : found->second->path() / std::to_string(index);
+std::filesystem::path StagingArea::itemFolder(const StagingFolder& folder, std::size_t index) {
+    return folder.path() / std::to_string(index);
 }
 
 }  // namespace tamble

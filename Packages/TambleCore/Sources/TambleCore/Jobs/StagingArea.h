@@ -11,32 +11,35 @@
 
 namespace tamble {
 
-/// The staging folders of one job: one for each volume that its outputs go to, made when first needed. Thread-safe.
+/// The staging folders of one job: one for each volume that its outputs go to, made when first needed.
+/// Thread-safe.
 class StagingArea {
   public:
-    StagingArea() = default;
-    StagingArea(const StagingArea&) = delete;
-    StagingArea& operator=(const StagingArea&) = delete;
-    ~StagingArea();
-
-    /// Where the item writes its output, which will go to `target`; in a folder of its own, which exists then. Throws
-    /// std::filesystem::filesystem_error when that cannot be made.
-    std::filesystem::path placeFor(std::size_t index, const std::filesystem::path& target);
-    /// The same place again.
-    std::filesystem::path existingPlaceFor(std::size_t index, const std::filesystem::path& target) const;
-    /// Removes the item's folder with whatever is left in it; what cannot be removed now is at the end.
-    void discard(std::size_t index, const std::filesystem::path& target);
+    /// Where the item writes its output, which will go to `target`; in a folder of its own, which exists
+    /// then. Throws std::filesystem::filesystem_error when that cannot be made.
+    std::filesystem::path makePlace(std::size_t index, const std::filesystem::path& target);
+    /// The place that was made for the item.
+    std::filesystem::path placeOf(std::size_t index) const;
+    /// Removes the item's place with whatever is left in it.
+    void discard(std::size_t index);
+    /// Removes everything.
+    void removeAll();
 
   private:
     struct OnVolume {
         std::optional<Volume> volume;
         StagingFolder folder;
     };
+    struct Item {
+        const StagingFolder* folder = nullptr;
+        std::string name;
+    };
     const StagingFolder& folderNear(const std::filesystem::path& target);
-    std::filesystem::path itemFolder(std::size_t index, const std::filesystem::path& target) const;
+    static std::filesystem::path itemFolder(const StagingFolder& folder, std::size_t index);
 
     mutable std::mutex lock_;
     std::list<OnVolume> volumes_;
+    std::unordered_map<std::size_t, Item> items_;
     /// By the folder of a target.
     std::unordered_map<std::string, const StagingFolder*> known_;
     /// Folders near which none can be made, with the reason.

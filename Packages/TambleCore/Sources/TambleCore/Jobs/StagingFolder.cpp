@@ -22,18 +22,42 @@ constexpr std::string_view namePrefix = "TambleStaging-";
 /// Of a folder that stands among the user's files.
 constexpr std::string_view hiddenPrefix = ".TambleStaging-";
 
-std::filesystem::path registry() {
-    return folders::caches() / "staging";
+/// Where the lock files are: in the caches, or where those cannot be written, in the temporary folder.
+std::vector<std::filesystem::path> registries() {
+    return {folders::caches() / "staging",
+            folders::temporary() / ("tamble-staging-" + std::to_string(::getuid()))};
+}
+
+bool isOwnFolder(const std::filesystem::path& folder) {
+    struct stat properties {};
+    return ::lstat(folder.c_str(), &properties) == 0 && S_ISDIR(properties.st_mode) &&
+           properties.st_uid == ::getuid();
+}
+
+std::filesystem::path makeRegistry() {
+    std::error_code error;
+    for (const auto& registry : registries()) {
+        std::filesystem::create_directories(registry.parent_path(), error);
+        if (::mkdir(registry.c_str(), 0700) != 0 && errno != EEXIST) {
+            error = lastSystemError();
+        } else if (isOwnFolder(registry) && ::access(registry.c_str(), W_OK | X_OK) == 0) {
+            return registry;
+        } else {
+            error = std::make_error_code(std::errc::permission_denied);
+        }
+    }
+    throw std::filesystem::filesystem_error("cannot create", registries().back(), error);
 }
 
 /// Where the folder may stand, the best place first.
-std::vector<std::filesystem::path> placesFor(const std::filesystem::path& place, const std::string& id) {
+std::vector<std::filesystem::path> placesFor(const std::filesystem::path& place,
+                                             const std::filesystem::path& registry, const std::string& id) {
     const std::filesystem::path nearest = nearestExisting(place);
     const std::string hidden = std::string(hiddenPrefix) + id;
     const std::string plain = std::string(namePrefix) + id;
     std::vector<std::filesystem::path> places;
-    if (Volume::of(nearest) == Volume::of(registry())) {
-        places.push_back(registry() / plain);
+    if (Volume::of(nearest) == Volume::of(registry)) {
+        places.push_back(registry / plain);
     } else {
         std::error_code error;
         const bool isFolder = std::filesystem::is_directory(nearest, error);
@@ -50,9 +74,8 @@ struct LockedEntry {
 };
 
 /// A lock file of our own. One that somebody tidied away between its making and its locking is no use.
-LockedEntry makeEntry(const std::string& id) {
-    std::filesystem::create_directories(registry());
-    const std::filesystem::path lockFile = registry() / (id + std::string(lockExtension));
+LockedEntry makeEntry(const std::filesystem::path& registry, const std::string& id) {
+    const std::filesystem::path lockFile = registry / (id + std::string(lockExtension));
     for (;;) {
         FileLock lock = FileLock::waitFor(lockFile);
         if (lock.isStillAt(lockFile)) return {lockFile, std::move(lock)};
@@ -75,13 +98,12 @@ void removeFolder(const std::filesystem::path& folder) {
     std::filesystem::remove_all(folder, ignored);
 }
 
-/// Whether the path that an entry names can be one of ours: never remove anything else, whatever the entry says.
+/// Whether the path that an entry names can be one of ours: never remove anything else, whatever the entry
+/// says.
 bool isStagingFolder(const std::filesystem::path& folder, const std::string& id) {
     const std::string name = folder.filename().native();
     if (name != std::string(namePrefix) + id && name != std::string(hiddenPrefix) + id) return false;
-    struct stat properties {};
-    return ::lstat(folder.c_str(), &properties) == 0 && S_ISDIR(properties.st_mode) &&
-           properties.st_uid == ::getuid();
+    return isOwnFolder(folder);
 }
 
 void removeIfStale(const std::filesystem::path& lockFile) {
@@ -90,7 +112,8 @@ void removeIfStale(const std::filesystem::path& lockFile) {
     std::string text = readWholeFile(lockFile);
     while (text.ends_with('\n')) text.pop_back();
     const std::string id = lockFile.stem().native();
-    if (const auto folder = pathFromFileURL(text); folder && isStagingFolder(*folder, id)) removeFolder(*folder);
+    if (const auto folder = pathFromFileURL(text); folder && isStagingFolder(*folder, id))
+        removeFolder(*folder);
     ::unlink(lockFile.c_str());
 }
 
@@ -98,9 +121,10 @@ void removeIfStale(const std::filesystem::path& lockFile) {
 
 StagingFolder StagingFolder::makeNear(const std::filesystem::path& place) {
     const std::string id = newUUID();
-    LockedEntry entry = makeEntry(id);
+    const std::filesystem::path registry = makeRegistry();
+    LockedEntry entry = makeEntry(registry, id);
     std::error_code error;
-    for (const auto& folder : placesFor(place, id)) {
+    for (const auto& folder : placesFor(place, registry, id)) {
         writeEntry(entry, folder);
         if (::mkdir(folder.c_str(), 0700) == 0) {
             return StagingFolder(folder, std::move(entry.lockFile), std::move(entry.lock));
@@ -115,7 +139,9 @@ StagingFolder::StagingFolder(std::filesystem::path path, std::filesystem::path l
     : path_(std::move(path)), lockFile_(std::move(lockFile)), lock_(std::move(lock)) {}
 
 StagingFolder::StagingFolder(StagingFolder&& other) noexcept
-    : path_(std::exchange(other.path_, {})), lockFile_(std::move(other.lockFile_)), lock_(std::move(other.lock_)) {}
+    : path_(std::exchange(other.path_, {})),
+      lockFile_(std::move(other.lockFile_)),
+      lock_(std::move(other.lock_)) {}
 
 StagingFolder::~StagingFolder() {
     if (path_.empty()) return;
@@ -124,11 +150,14 @@ StagingFolder::~StagingFolder() {
 }
 
 void removeStaleStagingFolders() {
-    std::error_code error;
     std::vector<std::filesystem::path> entries;
-    for (std::filesystem::directory_iterator entry(registry(), error), end; !error && entry != end;
-         entry.increment(error)) {
-        if (entry->path().extension() == lockExtension) entries.push_back(entry->path());
+    for (const auto& registry : registries()) {
+        if (!isOwnFolder(registry)) continue;
+        std::error_code error;
+        for (std::filesystem::directory_iterator entry(registry, error), end; !error && entry != end;
+             entry.increment(error)) {
+            if (entry->path().extension() == lockExtension) entries.push_back(entry->path());
+        }
     }
     for (const auto& lockFile : entries) {
         try {

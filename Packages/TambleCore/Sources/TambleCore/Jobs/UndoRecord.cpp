@@ -89,7 +89,8 @@ class Undo {
             if (succeeds([&] { fileOps_.move(place, item->from); })) {
                 ++report_.restoredItems;
             } else {
-                engineLog.error("Undo couldn't put a renamed file back; it is at a temporary name in its folder");
+                engineLog.error(
+                    "Undo couldn't put a renamed file back; it is at a temporary name in its folder");
             }
         }
     }

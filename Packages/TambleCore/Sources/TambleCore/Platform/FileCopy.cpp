@@ -94,7 +94,8 @@ void copyExtendedAttributes(int source, int target) {
         if (size < 0) continue;
         value.resize(static_cast<std::size_t>(size));
         const ssize_t read = ::fgetxattr(source, name, value.data(), value.size());
-        if (read >= 0) static_cast<void>(::fsetxattr(target, name, value.data(), static_cast<std::size_t>(read), 0));
+        if (read >= 0)
+            static_cast<void>(::fsetxattr(target, name, value.data(), static_cast<std::size_t>(read), 0));
     }
 }
 
@@ -132,7 +133,8 @@ void copyRegularFile(const std::filesystem::path& from, const std::filesystem::p
     sync(target, to);
 }
 
-void copyLink(const std::filesystem::path& from, const std::filesystem::path& to, const struct stat& properties) {
+void copyLink(const std::filesystem::path& from, const std::filesystem::path& to,
+              const struct stat& properties) {
     std::filesystem::copy_symlink(from, to);
     static_cast<void>(::lchown(to.c_str(), properties.st_uid, properties.st_gid));
     static_cast<void>(::utimensat(AT_FDCWD, to.c_str(), timesOf(properties).data(), AT_SYMLINK_NOFOLLOW));
@@ -140,7 +142,8 @@ void copyLink(const std::filesystem::path& from, const std::filesystem::path& to
 
 void copyTree(const std::filesystem::path& from, const std::filesystem::path& to);
 
-void copyFolder(const std::filesystem::path& from, const std::filesystem::path& to, const struct stat& properties) {
+void copyFolder(const std::filesystem::path& from, const std::filesystem::path& to,
+                const struct stat& properties) {
     const FileDescriptor source = opened(from, O_RDONLY | O_DIRECTORY);
     if (::mkdir(to.c_str(), 0700) != 0) throwLastError("cannot create", to);
     for (const auto& entry : std::filesystem::directory_iterator(from)) {
@@ -157,12 +160,14 @@ void copyTree(const std::filesystem::path& from, const std::filesystem::path& to
     if (S_ISREG(properties.st_mode)) return copyRegularFile(from, to, properties);
     if (S_ISDIR(properties.st_mode)) return copyFolder(from, to, properties);
     if (S_ISLNK(properties.st_mode)) return copyLink(from, to, properties);
-    throw std::filesystem::filesystem_error("cannot copy", from, std::make_error_code(std::errc::not_supported));
+    throw std::filesystem::filesystem_error("cannot copy", from,
+                                            std::make_error_code(std::errc::not_supported));
 }
 
 void throwIfExists(const std::filesystem::path& path) {
     if (!std::filesystem::exists(std::filesystem::symlink_status(path))) return;
-    throw std::filesystem::filesystem_error("cannot copy to", path, std::make_error_code(std::errc::file_exists));
+    throw std::filesystem::filesystem_error("cannot copy to", path,
+                                            std::make_error_code(std::errc::file_exists));
 }
 
 }  // namespace

@@ -14,9 +14,10 @@ using CopyProgress = std::function<void(std::int64_t done, std::int64_t total)>;
 void copyFileContents(const std::filesystem::path& from, const std::filesystem::path& to,
                       const CopyProgress& progress = {});
 
-/// Copies a file, a symbolic link, or a folder with all it holds to `to`, which must not exist, with permissions,
-/// times, extended attributes and, as far as allowed, owner; synced to disk. Throws
-/// std::filesystem::filesystem_error; what was written is removed then. Pipes, sockets and devices are not supported.
+/// Copies a file, a symbolic link, or a folder with all it holds to `to`, which must not exist, with
+/// permissions, times, extended attributes and, as far as allowed, owner; synced to disk. Throws
+/// std::filesystem::filesystem_error; what was written is removed then. Pipes, sockets and devices are not
+/// supported.
 void copyItem(const std::filesystem::path& from, const std::filesystem::path& to);
 
 }  // namespace tamble

@@ -7,8 +7,8 @@
 
 namespace tamble {
 
-/// An advisory lock (flock) between programs, held while it lives; the system releases it when the program dies. The
-/// lock file is made if it is missing and stays.
+/// An advisory lock (flock) between programs, held while it lives; the system releases it when the program
+/// dies. The lock file is made if it is missing and stays.
 class FileLock {
   public:
     /// Waits for the lock. Throws std::filesystem::filesystem_error.

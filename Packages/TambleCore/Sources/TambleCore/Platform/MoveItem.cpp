@@ -21,8 +21,9 @@ bool isFolder(const std::filesystem::path& path) {
     return ::lstat(path.c_str(), &properties) == 0 && S_ISDIR(properties.st_mode);
 }
 
-/// For file systems that cannot refuse to overwrite: an empty item of ours holds the name until the rename puts the
-/// real one in its place. Nobody else's item can be there, and an empty folder only gives way to a folder.
+/// For file systems that cannot refuse to overwrite: an empty item of ours holds the name until the rename
+/// puts the real one in its place. Nobody else's item can be there, and an empty folder only gives way to a
+/// folder.
 Rename renameOverPlaceholder(const std::filesystem::path& from, const std::filesystem::path& to) {
     const bool folder = isFolder(from);
     if (folder) {
@@ -66,8 +67,8 @@ void removeQuietly(const std::filesystem::path& path) {
     std::filesystem::remove_all(path, ignored);
 }
 
-/// Takes the moved item away from its old place. A folder leaves by one rename first, so that it is gone whole or
-/// not at all.
+/// Takes the moved item away from its old place. A folder leaves by one rename first, so that it is gone
+/// whole or not at all.
 void removeSource(const std::filesystem::path& from) {
     if (!isFolder(from)) {
         if (::unlink(from.c_str()) != 0) throwLastError("cannot remove", from);

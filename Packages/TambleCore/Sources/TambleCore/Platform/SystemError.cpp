@@ -12,7 +12,8 @@ void throwLastError(const char* action, const std::filesystem::path& path) {
     throw std::filesystem::filesystem_error(action, path, lastSystemError());
 }
 
-void throwLastError(const char* action, const std::filesystem::path& path, const std::filesystem::path& other) {
+void throwLastError(const char* action, const std::filesystem::path& path,
+                    const std::filesystem::path& other) {
     throw std::filesystem::filesystem_error(action, path, other, lastSystemError());
 }
 

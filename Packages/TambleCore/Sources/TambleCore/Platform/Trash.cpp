@@ -8,14 +8,13 @@
 #include <TambleCore/Support/PathKey.h>
 #include <TambleCore/Support/UUID.h>
 
-#include <fmt/format.h>
-
 #include <array>
 #include <cerrno>
 #include <ctime>
 #include <string>
 
 #include <fcntl.h>
+#include <fmt/format.h>
 #include <unistd.h>
 
 namespace tamble::trash {
@@ -39,8 +38,8 @@ std::string localTime() {
     return {text.data(), length};
 }
 
-/// The name to try in the Bin. People see it there, so it stays near the original's; after a few that are taken a
-/// random one ends the search, whatever number of items of one name the Bin holds.
+/// The name to try in the Bin. People see it there, so it stays near the original's; after a few that are
+/// taken a random one ends the search, whatever number of items of one name the Bin holds.
 std::string candidate(const std::string& name, int attempt) {
     constexpr int readableAttempts = 20;
     const std::size_t limit = maximumNameLength - noteExtension.size();
@@ -54,7 +53,8 @@ std::string candidate(const std::string& name, int attempt) {
 
 /// Takes the name in the Bin; false when it is taken already.
 bool writeNote(const std::filesystem::path& note, const std::string& text) {
-    const FileDescriptor file(::open(note.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600));
+    const FileDescriptor file(
+        ::open(note.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600));
     if (!file) {
         if (errno == EEXIST) return false;
         throwLastError("cannot write", note);

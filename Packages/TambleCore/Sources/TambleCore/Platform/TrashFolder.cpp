@@ -25,8 +25,8 @@ bool makePrivateFolder(const std::filesystem::path& folder) {
     return isOwnFolder(folder);
 }
 
-/// Whether the administrator's Bin for all users of a volume may be used: a real folder in which nobody can remove
-/// what is not theirs.
+/// Whether the administrator's Bin for all users of a volume may be used: a real folder in which nobody can
+/// remove what is not theirs.
 bool isSharedBin(const std::filesystem::path& folder) {
     struct stat properties {};
     return ::lstat(folder.c_str(), &properties) == 0 && S_ISDIR(properties.st_mode) &&

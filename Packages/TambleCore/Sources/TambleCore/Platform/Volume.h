@@ -6,8 +6,8 @@
 
 namespace tamble {
 
-/// A mounted file system, or a part of one: two places are of one volume when a file can be renamed from one to the
-/// other.
+/// A mounted file system, or a part of one: two places are of one volume when a file can be renamed from one
+/// to the other.
 struct Volume {
     std::uint64_t device = 0;
     std::uint64_t mount = 0;

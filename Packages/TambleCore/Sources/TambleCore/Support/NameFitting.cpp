@@ -1,11 +1,11 @@
 #include <TambleCore/Support/NameFitting.h>
 #include <TambleCore/Support/Text.h>
 
-#include <unicode/brkiter.h>
-#include <unicode/utext.h>
-
 #include <algorithm>
 #include <memory>
+
+#include <unicode/brkiter.h>
+#include <unicode/utext.h>
 
 namespace tamble {
 namespace {
@@ -14,8 +14,8 @@ struct CloseText {
     void operator()(UText* text) const { utext_close(text); }
 };
 
-/// The longest beginning of at most `limit` bytes that ends between two characters. Bytes that are not UTF-8 may be
-/// cut anywhere.
+/// The longest beginning of at most `limit` bytes that ends between two characters. Bytes that are not UTF-8
+/// may be cut anywhere.
 std::string_view cut(std::string_view text, std::size_t limit) {
     if (text.size() <= limit) return text;
     UErrorCode status = U_ZERO_ERROR;

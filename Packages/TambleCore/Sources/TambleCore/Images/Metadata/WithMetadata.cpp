@@ -68,9 +68,8 @@ Bytes intoJpeg(const Bytes& encoded, const MetadataBlocks& blocks) {
 Bytes intoPng(const Bytes& encoded, const MetadataBlocks& blocks) {
     const auto layout = png::layout(encoded);
     if (!layout) return encoded;
-    const bool hasColour = std::ranges::any_of(layout->chunks, [](const png::Chunk& chunk) {
-        return chunk.type == "iCCP" || chunk.type == "sRGB";
-    });
+    const bool hasColour = std::ranges::any_of(
+        layout->chunks, [](const png::Chunk& chunk) { return chunk.type == "iCCP" || chunk.type == "sRGB"; });
     Bytes result = copied(asBytes(png::signature));
     for (const png::Chunk& chunk : layout->chunks) {
         append(result, chunk.whole);
@@ -130,16 +129,20 @@ Bytes intoTiff(Bytes encoded, const MetadataBlocks& blocks) {
 Bytes withMetadata(Bytes encoded, ImageFormat format, const MetadataBlocks& blocks) {
     if (!blocks.exif && !blocks.xmp && !blocks.iptc && !blocks.icc) return encoded;
     switch (format) {
-        case ImageFormat::jpeg: return intoJpeg(encoded, blocks);
-        case ImageFormat::png: return intoPng(encoded, blocks);
+        case ImageFormat::jpeg:
+            return intoJpeg(encoded, blocks);
+        case ImageFormat::png:
+            return intoPng(encoded, blocks);
         case ImageFormat::webp: {
             auto result = webp::withBlocks(encoded, blocks);
             return result ? std::move(*result) : std::move(encoded);
         }
-        case ImageFormat::tiff: return intoTiff(std::move(encoded), blocks);
+        case ImageFormat::tiff:
+            return intoTiff(std::move(encoded), blocks);
         case ImageFormat::heic:
         case ImageFormat::gif:
-        case ImageFormat::avif: break;
+        case ImageFormat::avif:
+            break;
     }
     return encoded;
 }

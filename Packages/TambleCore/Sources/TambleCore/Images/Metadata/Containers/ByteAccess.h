@@ -45,9 +45,7 @@ void appendNumber(Bytes& bytes, Number number, ByteOrder order) {
     putNumber(std::span(bytes), bytes.size() - sizeof(Number), number, order);
 }
 
-inline void append(Bytes& bytes, ByteView more) {
-    bytes.insert(bytes.end(), more.begin(), more.end());
-}
+void append(Bytes& bytes, ByteView more);
 
 inline ByteView asBytes(std::string_view text) {
     return std::as_bytes(std::span(text));

@@ -27,11 +27,16 @@ std::optional<std::size_t> endOfSubBlocks(ByteView file, std::size_t at) {
 
 BlockKind kindOf(unsigned label) {
     switch (label) {
-        case 0xF9: return BlockKind::graphicControl;
-        case 0xFE: return BlockKind::comment;
-        case 0x01: return BlockKind::plainText;
-        case 0xFF: return BlockKind::application;
-        default: return BlockKind::unknown;
+        case 0xF9:
+            return BlockKind::graphicControl;
+        case 0xFE:
+            return BlockKind::comment;
+        case 0x01:
+            return BlockKind::plainText;
+        case 0xFF:
+            return BlockKind::application;
+        default:
+            return BlockKind::unknown;
     }
 }
 

@@ -26,8 +26,8 @@ std::optional<Layout> layout(ByteView file);
 /// The content of data sub-blocks without their length bytes.
 Bytes content(ByteView subBlocks);
 
-/// The XMP packet that an application extension holds: stored bare, length bytes and all, with a closing trick of 256
-/// bytes (XMP specification, part 3).
+/// The XMP packet that an application extension holds: stored bare, length bytes and all, with a closing
+/// trick of 256 bytes (XMP specification, part 3).
 std::optional<ByteView> xmp(const Block& block);
 
 }  // namespace tamble::gif

@@ -112,7 +112,8 @@ std::optional<Bytes> profileAmong(ByteView properties) {
     const auto container = find(boxes(properties), "ipco");
     if (!container) return std::nullopt;
     for (const Box& property : boxes(*container)) {
-        if (property.type == "colr" && (startsWith(property.payload, "prof") || startsWith(property.payload, "rICC"))) {
+        if (property.type == "colr" &&
+            (startsWith(property.payload, "prof") || startsWith(property.payload, "rICC"))) {
             return copied(property.payload.subspan(4));
         }
     }

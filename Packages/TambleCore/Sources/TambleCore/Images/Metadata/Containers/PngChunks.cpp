@@ -1,10 +1,10 @@
 #include <TambleCore/Images/Metadata/Containers/Deflate.h>
 #include <TambleCore/Images/Metadata/Containers/PngChunks.h>
 
+#include <charconv>
+
 #include <fmt/format.h>
 #include <zlib.h>
-
-#include <charconv>
 
 namespace tamble::png {
 namespace {
@@ -91,7 +91,8 @@ std::optional<Bytes> rawProfile(const Text& text) {
     nextWord();
     const std::string_view length = nextWord();
     std::size_t size = 0;
-    if (std::from_chars(length.data(), length.data() + length.size(), size).ec != std::errc{}) return std::nullopt;
+    if (std::from_chars(length.data(), length.data() + length.size(), size).ec != std::errc{})
+        return std::nullopt;
     if (size > rest.size() / 2) return std::nullopt;
     Bytes result;
     result.reserve(size);

@@ -36,8 +36,9 @@ std::optional<Text> text(const Chunk& chunk);
 inline constexpr std::string_view xmpKeyword = "XML:com.adobe.xmp";
 void appendXmp(Bytes& file, ByteView packet);
 
-/// A block of metadata in a text chunk, as written by programs older than the eXIf chunk: keyword "Raw profile type "
-/// and a name ("exif", "iptc", "xmp", "icc", "APP1"), the text a name, a length and hexadecimal digits.
+/// A block of metadata in a text chunk, as written by programs older than the eXIf chunk: keyword "Raw
+/// profile type " and a name ("exif", "iptc", "xmp", "icc", "APP1"), the text a name, a length and
+/// hexadecimal digits.
 inline constexpr std::string_view rawProfileKeyword = "Raw profile type ";
 std::optional<Bytes> rawProfile(const Text& text);
 void appendRawProfile(Bytes& file, std::string_view name, ByteView block);

@@ -18,7 +18,8 @@ WebPData dataOf(ByteView bytes) {
 }  // namespace
 
 std::optional<Layout> layout(ByteView file) {
-    if (!startsWith(file, "RIFF") || !startsWith(file.subspan(std::min<std::size_t>(8, file.size())), "WEBP")) {
+    if (!startsWith(file, "RIFF") ||
+        !startsWith(file.subspan(std::min<std::size_t>(8, file.size())), "WEBP")) {
         return std::nullopt;
     }
     const auto size = numberAt<std::uint32_t>(file, 4, ByteOrder::little);

@@ -53,7 +53,8 @@ class Editor {
             if (!dropped_[i] && !keep(i)) return std::nullopt;
         }
         for (std::size_t i = 0; i < structure_.directories.size(); ++i) {
-            if (structure_.directories[i].kind == DirectoryKind::gps && dropped_[i]) noteGone(structure_.directories[i]);
+            if (structure_.directories[i].kind == DirectoryKind::gps && dropped_[i])
+                noteGone(structure_.directories[i]);
         }
         if (tangled()) return std::nullopt;
         clearTheRest();
@@ -87,12 +88,13 @@ class Editor {
         const auto children = std::ranges::count_if(structure_.directories, [&](const Directory& directory) {
             return directory.parentTag == tag && directory.parent == parent;
         });
-        return pointer != nullptr && static_cast<std::size_t>(children) == structure_.numbers(*pointer).size();
+        return pointer != nullptr &&
+               static_cast<std::size_t>(children) == structure_.numbers(*pointer).size();
     }
 
     bool isPointer(const Entry& entry) const {
-        return entry.tag == tag::exifDirectory || entry.tag == tag::gpsDirectory || entry.tag == tag::interopDirectory ||
-               entry.tag == tag::subDirectories;
+        return entry.tag == tag::exifDirectory || entry.tag == tag::gpsDirectory ||
+               entry.tag == tag::interopDirectory || entry.tag == tag::subDirectories;
     }
 
     bool drops(std::size_t parent, const Entry& entry) const {
@@ -104,8 +106,8 @@ class Editor {
         return !entry.readable || std::ranges::find(tag::georeference, entry.tag) != tag::georeference.end();
     }
 
-    /// Writes the directory's table anew and notes what it refers to; false when nothing is left of the main one or its
-    /// pictures are out of reach.
+    /// Writes the directory's table anew and notes what it refers to; false when nothing is left of the main
+    /// one or its pictures are out of reach.
     bool keep(std::size_t index) {
         const Directory& directory = structure_.directories[index];
         std::vector<Bytes> records;
@@ -153,8 +155,8 @@ class Editor {
         }
     }
 
-    /// Puts a shorter value where the old one was and tells its length in the record. The values concerned are made
-    /// of bytes; some writers count them in longer units.
+    /// Puts a shorter value where the old one was and tells its length in the record. The values concerned
+    /// are made of bytes; some writers count them in longer units.
     void store(Bytes& record, const Entry& entry, ByteView value) {
         const std::size_t unit = sizeOfType(entry.type);
         const std::size_t size = (value.size() + unit - 1) / unit * unit;
@@ -254,7 +256,8 @@ class Editor {
             if (range.at > end) std::ranges::fill(bytes().subspan(end, range.at - end), std::byte{0});
             end = std::max(end, range.end());
         }
-        for (const Range& range : gone_) std::ranges::fill(bytes().subspan(range.at, range.size), std::byte{0});
+        for (const Range& range : gone_)
+            std::ranges::fill(bytes().subspan(range.at, range.size), std::byte{0});
         result_.resize(end);
     }
 

@@ -61,7 +61,8 @@ class PlaceFinder {
         if (maker.base == Base::note) base = note_.at;
         if (maker.base == Base::innerHeader) base = note_.at + nikonHeaderAt;
         if (maker.base != Base::structure || maker.signature.starts_with("AOC")) {
-            const std::size_t markAt = maker.base == Base::innerHeader ? base : note_.at + maker.directoryAt - 2;
+            const std::size_t markAt =
+                maker.base == Base::innerHeader ? base : note_.at + maker.directoryAt - 2;
             if (maker.directoryAt >= 2) order = orderMark(bytes, markAt).value_or(order);
         }
         std::vector<Range> result;

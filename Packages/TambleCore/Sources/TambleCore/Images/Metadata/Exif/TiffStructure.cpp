@@ -57,7 +57,8 @@ class Parser {
         result.count = *numberAt<std::uint32_t>(bytes, at + 4, result_.order);
         result.size = std::size_t{result.count} * sizeOfType(result.type);
         result.valueAt = result.isInline() ? at + 8 : *numberAt<std::uint32_t>(bytes, at + 8, result_.order);
-        result.readable = sizeOfType(result.type) != 0 && slice(bytes, result.valueAt, result.size).has_value();
+        result.readable =
+            sizeOfType(result.type) != 0 && slice(bytes, result.valueAt, result.size).has_value();
         return result;
     }
 
@@ -79,11 +80,16 @@ class Parser {
 
     static std::optional<DirectoryKind> kindBehind(std::uint16_t tag) {
         switch (tag) {
-            case tag::exifDirectory: return DirectoryKind::exif;
-            case tag::gpsDirectory: return DirectoryKind::gps;
-            case tag::interopDirectory: return DirectoryKind::interop;
-            case tag::subDirectories: return DirectoryKind::sub;
-            default: return std::nullopt;
+            case tag::exifDirectory:
+                return DirectoryKind::exif;
+            case tag::gpsDirectory:
+                return DirectoryKind::gps;
+            case tag::interopDirectory:
+                return DirectoryKind::interop;
+            case tag::subDirectories:
+                return DirectoryKind::sub;
+            default:
+                return std::nullopt;
         }
     }
 
@@ -151,7 +157,8 @@ std::optional<std::vector<Range>> pictureData(const Structure& structure, const 
         if (offsetEntry == nullptr) continue;
         const Entry* sizeEntry = directory.find(sizeTag);
         const auto offsets = structure.numbers(*offsetEntry);
-        const auto sizes = sizeEntry == nullptr ? std::vector<std::uint32_t>{} : structure.numbers(*sizeEntry);
+        const auto sizes =
+            sizeEntry == nullptr ? std::vector<std::uint32_t>{} : structure.numbers(*sizeEntry);
         if (offsets.empty() || offsets.size() != sizes.size()) return std::nullopt;
         for (std::size_t i = 0; i < offsets.size(); ++i) {
             if (!slice(structure.bytes, offsets[i], sizes[i])) return std::nullopt;

@@ -25,7 +25,8 @@ enum class DirectoryKind { page, exif, gps, interop, sub };
 struct Directory {
     DirectoryKind kind = DirectoryKind::page;
     std::size_t at = 0;
-    /// The directory that points here and by which tag; a page after the first has the page before it and tag 0.
+    /// The directory that points here and by which tag; a page after the first has the page before it and tag
+    /// 0.
     std::size_t parent = 0;
     std::uint16_t parentTag = 0;
     std::vector<Entry> entries;
@@ -33,8 +34,8 @@ struct Directory {
     const Entry* find(std::uint16_t tag) const;
 };
 
-/// A classic TIFF file or EXIF block as its tables tell it. The first directory is the main one, and parents come
-/// before their children.
+/// A classic TIFF file or EXIF block as its tables tell it. The first directory is the main one, and parents
+/// come before their children.
 struct Structure {
     ByteView bytes;
     ByteOrder order = ByteOrder::little;

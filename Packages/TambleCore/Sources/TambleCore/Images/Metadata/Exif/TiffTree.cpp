@@ -134,8 +134,9 @@ bool describesPhotograph(std::uint16_t tag) {
     constexpr std::array<std::uint16_t, 4> stays{tag::orientation, 0x011A, 0x011B, 0x0128};
     if (std::ranges::find(stays, tag) != stays.end()) return true;
     // The last is an image editor's layers: a picture of its own.
-    constexpr std::array<std::uint16_t, 7> others{tag::xmp, tag::iptc, tag::photoshop, tag::subDirectories,
-                                                  tag::thumbnailOffset, tag::thumbnailLength, 0x935C};
+    constexpr std::array<std::uint16_t, 7> others{
+        tag::xmp, tag::iptc, tag::photoshop, tag::subDirectories, tag::thumbnailOffset, tag::thumbnailLength,
+        0x935C};
     return std::ranges::find(others, tag) == others.end() &&
            std::ranges::find(tag::pixels, tag) == tag::pixels.end();
 }

@@ -26,11 +26,12 @@ struct Tree {
 
 using KeepsTag = std::function<bool(DirectoryKind kind, std::uint16_t tag)>;
 
-/// The main directory and those below it as far as `keeps` says, numbers in the given byte order. Unreadable values
-/// are missing.
+/// The main directory and those below it as far as `keeps` says, numbers in the given byte order. Unreadable
+/// values are missing.
 Tree treeOf(const Structure& structure, ByteOrder order, const KeepsTag& keeps);
 
-/// The tree's bytes to be put at an even `offset` of a file, main directory first, with no directory after it.
+/// The tree's bytes to be put at an even `offset` of a file, main directory first, with no directory after
+/// it.
 Bytes serialized(const Tree& tree, ByteOrder order, std::size_t offset);
 
 /// A whole block: header and tree.

@@ -9,8 +9,8 @@ constexpr std::byte tagMarker{0x1C};
 constexpr std::size_t headerSize = 5;
 constexpr unsigned applicationRecord = 2;
 
-/// Length of the dataset at the beginning of `records`; empty when it is damaged. A length with the highest bit set
-/// counts the bytes in which the real length follows.
+/// Length of the dataset at the beginning of `records`; empty when it is damaged. A length with the highest
+/// bit set counts the bytes in which the real length follows.
 std::optional<std::size_t> lengthOfFirst(ByteView records) {
     const auto stored = numberAt<std::uint16_t>(records, 3, ByteOrder::big);
     if (!stored || records[0] != tagMarker) return std::nullopt;

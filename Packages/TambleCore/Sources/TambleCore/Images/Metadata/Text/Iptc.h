@@ -4,8 +4,8 @@
 
 namespace tamble::iptc {
 
-/// IPTC-IIM records without the datasets that say where: content location, city, sub-location, province or state,
-/// country code and name. Whatever follows a damaged dataset is left out.
+/// IPTC-IIM records without the datasets that say where: content location, city, sub-location, province or
+/// state, country code and name. Whatever follows a damaged dataset is left out.
 Bytes withoutLocation(ByteView records);
 
 /// The dataset numbers of record 2 that say where.

@@ -41,7 +41,8 @@ std::optional<Resource> first(ByteView blocks) {
 }
 
 bool tellsMore(const Resource& thumbnail) {
-    return thumbnail.data.size() < thumbnailHeader || carriesMetadata(thumbnail.data.subspan(thumbnailHeader));
+    return thumbnail.data.size() < thumbnailHeader ||
+           carriesMetadata(thumbnail.data.subspan(thumbnailHeader));
 }
 
 }  // namespace
@@ -51,7 +52,8 @@ std::optional<std::vector<Resource>> resources(ByteView blocks) {
     while (!blocks.empty()) {
         const auto resource = first(blocks);
         if (!resource) {
-            const bool onlyPadding = std::ranges::all_of(blocks, [](std::byte b) { return b == std::byte{0}; });
+            const bool onlyPadding =
+                std::ranges::all_of(blocks, [](std::byte b) { return b == std::byte{0}; });
             return onlyPadding ? std::optional(std::move(result)) : std::nullopt;
         }
         result.push_back(*resource);
@@ -87,7 +89,8 @@ std::optional<Bytes> withoutLocation(ByteView blocks) {
             changed = records.size() != resource.data.size();
             if (!records.empty()) appendResource(result, iptcId, records);
         } else if (!isAmong(copyIds, resource.id) &&
-                   !(isAmong(thumbnailIds, resource.id) && tellsMore(resource)) && resource.id != iptcDigestId) {
+                   !(isAmong(thumbnailIds, resource.id) && tellsMore(resource)) &&
+                   resource.id != iptcDigestId) {
             append(result, resource.whole);
         }
     }

@@ -22,8 +22,8 @@ void appendResource(Bytes& blocks, std::uint16_t id, ByteView data);
 /// The IPTC records among the blocks.
 std::optional<Bytes> iptcRecords(ByteView blocks);
 
-/// The blocks without location in the IPTC records and without copies of EXIF and XMP, which nobody keeps in step;
-/// a thumbnail that carries metadata of its own goes too. Empty when the blocks are damaged.
+/// The blocks without location in the IPTC records and without copies of EXIF and XMP, which nobody keeps in
+/// step; a thumbnail that carries metadata of its own goes too. Empty when the blocks are damaged.
 std::optional<Bytes> withoutLocation(ByteView blocks);
 
 /// The blocks without the thumbnail. Empty when they are damaged.

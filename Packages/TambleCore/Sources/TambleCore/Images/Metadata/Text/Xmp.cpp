@@ -28,13 +28,15 @@ bool tellsLocation(const Exiv2::Xmpdatum& property) {
     const std::string path = property.tagName();
     return std::ranges::any_of(names(path), [&](std::string_view name) {
         const std::string lower = lowercased(name);
-        // The address of the photographer's office has names of its own; "coverage" is Dublin Core's word for place.
+        // The address of the photographer's office has names of its own; "coverage" is Dublin Core's word for
+        // place.
         return isLocationName(lower) || (lower == "coverage" && property.groupName() == "dc");
     });
 }
 
 bool isAttachment(const Exiv2::Xmpdatum& property) {
-    constexpr std::array<std::string_view, 5> groups{"hdrgm", "GContainer", "Container", "HDRGainMap", "MiCamera"};
+    constexpr std::array<std::string_view, 5> groups{"hdrgm", "GContainer", "Container", "HDRGainMap",
+                                                     "MiCamera"};
     const std::string group = property.groupName();
     const std::string name = property.tagName();
     return std::ranges::find(groups, group) != groups.end() || name.starts_with("MotionPhoto") ||
@@ -60,24 +62,26 @@ void makeUpright(Exiv2::XmpData& properties, const PixelSize& size) {
 /// Whether the bytes hold one of the words, whatever the case. Words are lower case.
 template <typename Words>
 bool mentions(std::string_view lowerText, const Words& words) {
-    return std::ranges::any_of(words,
-                               [&](std::string_view word) { return lowerText.find(word) != std::string_view::npos; });
+    return std::ranges::any_of(
+        words, [&](std::string_view word) { return lowerText.find(word) != std::string_view::npos; });
 }
 
 /// Whether the edit could change anything: parsing is far dearer than looking.
 bool isConcerned(ByteView packet, const Edit& edit) {
-    constexpr std::array<std::string_view, 9> places{"gps", "tude", "city", "country", "province", "state",
-                                                     "location", "region", "coverage"};
+    constexpr std::array<std::string_view, 9> places{"gps",   "tude",     "city",   "country", "province",
+                                                     "state", "location", "region", "coverage"};
     constexpr std::array<std::string_view, 5> shortPlaces{":lat", ":lon", ":alt", "sublocation", ":longt"};
-    constexpr std::array<std::string_view, 6> attachments{"hdrgm", "container", "gainmap", "motionphoto", "microvideo",
-                                                          "micamera"};
-    constexpr std::array<std::string_view, 4> uprights{"orientation", "imagewidth", "dimension", "thumbnails"};
+    constexpr std::array<std::string_view, 6> attachments{"hdrgm",       "container",  "gainmap",
+                                                          "motionphoto", "microvideo", "micamera"};
+    constexpr std::array<std::string_view, 4> uprights{"orientation", "imagewidth", "dimension",
+                                                       "thumbnails"};
     const std::string_view text = asText(packet);
     // Wide characters hide words from a search for bytes.
     if (text.find('\0') != std::string_view::npos) return true;
     const std::string lower = lowercased(text);
     return (edit.withoutLocation && (mentions(lower, places) || mentions(lower, shortPlaces))) ||
-           (edit.withoutAttachments && mentions(lower, attachments)) || (edit.upright && mentions(lower, uprights)) ||
+           (edit.withoutAttachments && mentions(lower, attachments)) ||
+           (edit.upright && mentions(lower, uprights)) ||
            (edit.withoutExtension && text.find(extensionName) != std::string_view::npos);
 }
 
@@ -85,9 +89,10 @@ bool isConcerned(ByteView packet, const Edit& edit) {
 
 bool isLocationName(std::string_view name) {
     constexpr std::array<std::string_view, 18> exact{
-        "city",        "state",    "country",       "countrycode",     "countryname",  "province",
-        "provincestate", "location", "locationshown", "locationcreated", "locationname", "locationid",
-        "sublocation", "worldregion", "shotlocation", "lat",            "lon",          "long"};
+        "city",         "state",         "country",     "countrycode",   "countryname",
+        "province",     "provincestate", "location",    "locationshown", "locationcreated",
+        "locationname", "locationid",    "sublocation", "worldregion",   "shotlocation",
+        "lat",          "lon",           "long"};
     constexpr std::array<std::string_view, 5> parts{"gps", "latitude", "longitude", "longtitude", "altitude"};
     return std::ranges::find(exact, name) != exact.end() || mentions(name, parts);
 }
@@ -97,7 +102,8 @@ std::optional<Bytes> edited(ByteView packet, const Edit& edit) {
     auto properties = decoded(packet);
     if (!properties) return std::nullopt;
     const auto goes = [&edit](const Exiv2::Xmpdatum& property) {
-        return (edit.withoutLocation && tellsLocation(property)) || (edit.withoutAttachments && isAttachment(property)) ||
+        return (edit.withoutLocation && tellsLocation(property)) ||
+               (edit.withoutAttachments && isAttachment(property)) ||
                (edit.withoutExtension && property.tagName() == extensionName) ||
                ((edit.upright || edit.withoutLocation) && isThumbnail(property));
     };
@@ -106,14 +112,16 @@ std::optional<Bytes> edited(ByteView packet, const Edit& edit) {
         makeUpright(*properties, *edit.upright);
         changed = true;
     }
-    return changed || asText(packet).find('\0') != std::string_view::npos ? encoded(*properties) : copied(packet);
+    return changed || asText(packet).find('\0') != std::string_view::npos ? encoded(*properties)
+                                                                          : copied(packet);
 }
 
 std::optional<Bytes> joined(ByteView packet, ByteView extension) {
     auto properties = decoded(packet);
     const auto more = decoded(extension);
     if (!properties || !more) return std::nullopt;
-    removeIf(*properties, [](const Exiv2::Xmpdatum& property) { return property.tagName() == extensionName; });
+    removeIf(*properties,
+             [](const Exiv2::Xmpdatum& property) { return property.tagName() == extensionName; });
     for (const Exiv2::Xmpdatum& property : *more) properties->add(property);
     return encoded(*properties);
 }

@@ -1,14 +1,15 @@
 #include <TambleCore/Images/Metadata/Containers/ByteAccess.h>
 #include <TambleCore/Images/Metadata/Text/XmpLibrary.h>
 
-#include <exiv2/error.hpp>
-
 #include <mutex>
+
+#include <exiv2/error.hpp>
 
 namespace tamble::xmp {
 namespace {
 
-/// The toolkit below has one registry of namespaces, and its lock function must be there before anything else.
+/// The toolkit below has one registry of namespaces, and its lock function must be there before anything
+/// else.
 void initialize() {
     static std::recursive_mutex mutex;
     static std::once_flag once;

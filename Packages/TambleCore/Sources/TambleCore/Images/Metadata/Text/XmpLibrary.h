@@ -2,10 +2,10 @@
 
 #include <TambleCore/Images/Metadata/Metadata.h>
 
+#include <functional>
+
 #include <exiv2/properties.hpp>
 #include <exiv2/xmp_exiv2.hpp>
-
-#include <functional>
 
 namespace tamble::xmp {
 

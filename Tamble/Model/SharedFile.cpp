@@ -1,0 +1,44 @@
+#include <Tamble/Model/SharedFile.h>
+
+#include <TambleCore/Platform/AtomicFile.h>
+#include <TambleCore/Platform/FileLock.h>
+#include <TambleCore/Platform/MoveItem.h>
+#include <TambleCore/Support/UUID.h>
+
+namespace tamble {
+namespace {
+
+std::filesystem::path with(std::filesystem::path path, std::string_view ending) {
+    path += ending;
+    return path;
+}
+
+}  // namespace
+
+std::optional<Json> SharedFile::read() const {
+    if (!std::filesystem::exists(path_)) return std::nullopt;
+    return parseJson(readWholeFile(path_));
+}
+
+void SharedFile::update(const std::function<Json()>& change) const {
+    std::filesystem::create_directories(path_.parent_path());
+    const FileLock lock = FileLock::waitFor(lockFile("change"));
+    writeFileAtomically(path_, writeJson(change()));
+}
+
+void SharedFile::moveAside() const {
+    const auto aside = with(path_, ".unreadable");
+    try {
+        moveItem(path_, aside);
+    } catch (const std::filesystem::filesystem_error& error) {
+        // An earlier one is kept as well.
+        if (error.code() != std::errc::file_exists) throw;
+        moveItem(path_, with(aside, "-" + newUUID()));
+    }
+}
+
+std::filesystem::path SharedFile::lockFile(std::string_view purpose) const {
+    return with(with(with(path_, "."), purpose), ".lock");
+}
+
+}  // namespace tamble
