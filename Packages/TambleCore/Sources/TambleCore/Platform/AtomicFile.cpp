@@ -28,7 +28,7 @@ void writeNewFile(const std::filesystem::path& path, std::string_view content) {
 
 void writeFileAtomically(const std::filesystem::path& file, std::string_view content) {
     std::filesystem::create_directories(file.parent_path());
-    const std::filesystem::path fresh = file.parent_path() / ("." + newUUID());
+    const std::filesystem::path fresh = file.parent_path() / std::string(".").append(newUUID());
     try {
         writeNewFile(fresh, content);
         std::filesystem::rename(fresh, file);
