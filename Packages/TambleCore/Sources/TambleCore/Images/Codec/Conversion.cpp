@@ -80,7 +80,7 @@ std::optional<EncodedPicture> Conversion::encodedFromJpeg(const MetadataBlocks& 
                                                           const Encoding& encoding,
                                                           const Watch& watch) const {
     if (container != Container::jpeg || settings.removeBackground) return std::nullopt;
-    const int stored = source.exif ? orientation(*source.exif) : 1;
+    const int stored = source.exif ? tiff::orientation(*source.exif) : 1;
     const Turn turn = Turn::upright(stored).then(Turn::rotation(settings.rotation));
     if (format == ImageFormat::jpeg)
         return rescaledJpeg(file, settings.maxPixelSize, turn, encoding, context);
