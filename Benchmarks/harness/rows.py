@@ -9,7 +9,7 @@ from . import checks, programs
 
 OURS = "tamble"
 
-# GPS tags that exiv2 has to be told one by one.
+# exiv2 has to be told the tags one by one.
 EXIV2_LOCATION = [
     f"-Mdel Exif.GPSInfo.{tag}"
     for tag in (
@@ -19,7 +19,9 @@ EXIV2_LOCATION = [
         "GPSDestBearingRef GPSDestBearing GPSDestDistanceRef GPSDestDistance GPSProcessingMethod GPSAreaInformation "
         "GPSDateStamp GPSDifferential GPSHPositioningError"
     ).split()
-] + [f"-Mdel Xmp.exif.{tag}" for tag in ("GPSLatitude", "GPSLongitude")]
+] + [
+    f"-Mdel {tag}" for tag in ("Xmp.exif.GPSLatitude", "Xmp.exif.GPSLongitude", "Xmp.photoshop.City", "Iptc.Application2.City")
+]
 EXIFTOOL_LOCATION = ["-gps:all=", "-xmp-exif:gps*=", "-xmp-photoshop:city=", "-iptc:city="]
 
 
@@ -89,16 +91,19 @@ def _sharp(work: str) -> Contender:
 
 
 def _in_chunks(name: str, needs: tuple, command: Callable[[Path], list], processes: int) -> Contender:
-    """One process for all photographs, or two for a half each, over a copy when it only edits in place."""
-    chunk = 100 // processes
-    return Contender(
-        name, needs, lambda inputs, output: bash(_photos(inputs), f"xargs -0 -P{processes} -n{chunk}", command(output))
-    )
+    """One process for all photographs, or two for a half each."""
+
+    def on(inputs, output):
+        chunk = -(-sum(1 for _ in inputs.photographs.iterdir()) // processes)
+        return bash(_photos(inputs), f"xargs -0 -P{processes} -n{chunk}", command(output))
+
+    return Contender(name, needs, on)
 
 
 def _exiv2(inputs: Inputs, output: Path) -> str:
+    """It edits in place, so it works on a copy."""
     return bash(
-        "cp", inputs.photographs, f"-RT {shlex.quote(str(output))} && find", output,
+        "cp -RT", inputs.photographs, output, "&& find", output,
         "-name '*.jpg' -print0 | xargs -0 -P2 -n50 exiv2", EXIV2_LOCATION, "modify",
     )  # fmt: skip
 
@@ -116,9 +121,9 @@ WEBP = Row(
             "cwebp",
             ("cwebp",),
             lambda inputs, output: bash(
-                "export OUT=", output, ";", _photos(inputs), "xargs -0 -P2 -n1 bash -c",
+                f"export OUT={shlex.quote(str(output))};", _photos(inputs), "xargs -0 -P2 -n1 bash -c",
                 ['name=${0##*/}; exec cwebp -quiet -q 80 -metadata exif "$0" -o "$OUT/${name%.jpg}.webp"'],
-            ).replace("OUT= ", "OUT="),
+            ),
         ),
         _sharp("webp"),
     ),

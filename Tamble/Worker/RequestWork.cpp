@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cmath>
 #include <new>
+#include <system_error>
 
 namespace tamble {
 namespace {
@@ -60,6 +61,10 @@ WorkerReply replyTo(const WorkerRequest& request, const ToolLookup& tools, const
         return reply::Failed{failure.code(), failure.sentence(), failure.detail()};
     } catch (const std::bad_alloc&) {
         return reply::OutOfMemory{};
+    } catch (const std::system_error& error) {
+        const auto& category = error.code().category();
+        const bool ofSystem = category == std::system_category() || category == std::generic_category();
+        return reply::Threw{error.what(), ofSystem ? std::optional(error.code().value()) : std::nullopt};
     } catch (const std::exception& error) {
         return reply::Threw{error.what()};
     } catch (...) {

@@ -1,5 +1,6 @@
 #include <Tamble/CommandLine/Arguments/UsageError.h>
 #include <Tamble/CommandLine/Commands/Commands.h>
+#include <Tamble/CommandLine/Progress/StopSignals.h>
 #include <Tamble/CommandLine/Text/Amounts.h>
 #include <Tamble/CommandLine/Text/Layout.h>
 #include <Tamble/CommandLine/Text/SafeText.h>
@@ -108,7 +109,11 @@ ExitStatus undoJob(const ParsedArguments& arguments) {
         return ExitStatus::someFailed;
     }
     const std::string id = entry->id;
-    const auto report = store.undo(id);
+    const auto report = [&] {
+        // Taking half of a job back would be worse than waiting.
+        const StopSignals signals([] { printError("Undoing; finishing first.\n"); });
+        return store.undo(id);
+    }();
     if (!report) {
         printError("This job is being undone already.\n");
         return ExitStatus::someFailed;

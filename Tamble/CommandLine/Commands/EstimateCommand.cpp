@@ -4,7 +4,7 @@
 #include <Tamble/CommandLine/Arguments/UsageError.h>
 #include <Tamble/CommandLine/Commands/Commands.h>
 #include <Tamble/CommandLine/Help/HelpPages.h>
-#include <Tamble/CommandLine/Report/ScanNotes.h>
+#include <Tamble/CommandLine/Report/NothingFound.h>
 #include <Tamble/CommandLine/Text/Amounts.h>
 
 #include <iostream>

@@ -7,8 +7,8 @@
 #include <Tamble/CommandLine/Progress/StopSignals.h>
 #include <Tamble/CommandLine/Progress/WatchedProcessor.h>
 #include <Tamble/CommandLine/Report/JobReport.h>
+#include <Tamble/CommandLine/Report/NothingFound.h>
 #include <Tamble/CommandLine/Report/ResultJson.h>
-#include <Tamble/CommandLine/Report/ScanNotes.h>
 #include <Tamble/CommandLine/Text/SafeText.h>
 #include <Tamble/Model/ActivityStore.h>
 
@@ -73,21 +73,19 @@ void answerSignal(ProgressDisplay& display, std::stop_source& stop) {
     }
 }
 
-JobResult runWatched(const JobRequest& request, std::vector<InputFile> files) {
-    ProgressDisplay display(Terminal::errors());
-    std::stop_source stop;
-    const StopSignals signals([&] { answerSignal(display, stop); });
+JobResult runWatched(const JobRequest& request, std::vector<InputFile> files, ProgressDisplay& display,
+                     std::stop_token stop) {
     const auto onProgress = [&display](const JobProgress& progress) { display.update(progress); };
     if (const auto* processor = std::get_if<std::unique_ptr<FileProcessor>>(&request.work)) {
         const WatchedProcessor watched(**processor, [&display](const InputFile& file) {
             display.startedFile(safeText(file.url.filename().native()));
         });
         return systemEngine().run(std::move(files), watched, request.configuration, onProgress,
-                                  stop.get_token());
+                                  std::move(stop));
     }
     return systemEngine().runCombined(std::move(files),
                                       *std::get<std::unique_ptr<FileCombiner>>(request.work),
-                                      request.configuration, onProgress, stop.get_token());
+                                      request.configuration, onProgress, std::move(stop));
 }
 
 /// Empty when the job left nothing to remember.
@@ -101,6 +99,22 @@ std::string rememberedID(const std::string& toolID, const JobResult& result) {
     store.load();
     store.add(std::move(entry));
     return id;
+}
+
+struct FinishedJob {
+    JobResult result;
+    std::string activityID;
+};
+
+/// A signal is answered until the job is remembered: what was saved must be possible to undo.
+FinishedJob runAndRemember(const std::string& toolID, const JobRequest& request,
+                           std::vector<InputFile> files) {
+    ProgressDisplay display(Terminal::errors());
+    std::stop_source stop;
+    const StopSignals signals([&] { answerSignal(display, stop); });
+    FinishedJob job{.result = runWatched(request, std::move(files), display, stop.get_token())};
+    job.activityID = rememberedID(toolID, job.result);
+    return job;
 }
 
 ExitStatus exitStatus(const JobResult& result, const ScanResult& scan) {
@@ -122,8 +136,7 @@ ExitStatus runTool(const ToolDefinition& tool, const CommandDescription& command
     if (isEmpty && !request.wantsJson) return ExitStatus::someFailed;
     if (request.isDryRun) return showPlan(request, scan);
 
-    const JobResult result = runWatched(request, std::move(scan.files));
-    const std::string id = rememberedID(tool.id, result);
+    const auto [result, id] = runAndRemember(tool.id, request, std::move(scan.files));
     for (const auto& line : problemLines(result)) printError(line + '\n');
     if (request.wantsJson) {
         printOutput(writeIndentedJson(jobResultJson(result, scan, id)) + '\n');

@@ -1,8 +1,8 @@
 #include <Tamble/CommandLine/Arguments/InputPaths.h>
 #include <Tamble/CommandLine/Commands/Commands.h>
 #include <Tamble/CommandLine/Report/JobReport.h>
+#include <Tamble/CommandLine/Report/NothingFound.h>
 #include <Tamble/CommandLine/Report/ResultJson.h>
-#include <Tamble/CommandLine/Report/ScanNotes.h>
 #include <Tamble/CommandLine/Text/Amounts.h>
 #include <Tamble/CommandLine/Text/Layout.h>
 #include <Tamble/CommandLine/Text/SafeText.h>

@@ -32,6 +32,10 @@ _tamble() {
         word=${word#*=}
     fi
     local command=${COMP_WORDS[1]}
+    # Behind its tool, an estimate takes what the tool takes.
+    if [[ $command == estimate ]] && ((COMP_CWORD > 2)); then
+        command=${COMP_WORDS[2]}
+    fi
     if ((COMP_CWORD == 1)); then
 )sh";
 
@@ -55,7 +59,7 @@ std::string valueLines(const CommandOption& option) {
             fmt::format(" _tamble_words {};", shellQuoted(fmt::format("{}", fmt::join(option.words, " "))));
     if (option.completes == Completes::folders) lines += " compopt -o plusdirs 2>/dev/null;";
     // Without words the shell's own completion of file names takes over.
-    return lines + " return ;;\n";
+    return lines + " return 0 ;;\n";
 }
 
 std::string commandLines(const CommandDescription& command, std::string_view name) {

@@ -11,7 +11,10 @@ std::vector<CommandDescription> completedCommands() {
         if (const auto* definition = ToolCatalog::definition(tool.id))
             all.push_back(toolCommand(*definition));
     }
+    std::vector<std::string> tools;
+    for (const auto& tool : all) tools.push_back(tool.name);
     all.insert(all.end(), commands().begin(), commands().end());
+    std::ranges::find(all, "estimate", &CommandDescription::name)->operandWords = std::move(tools);
     return all;
 }
 

@@ -39,10 +39,12 @@ std::string commandLines(const CommandDescription& command) {
     const std::string condition = fishQuoted("__fish_seen_subcommand_from " + command.name);
     std::string lines = fmt::format("complete -c tamble -n __fish_use_subcommand -f -a {} -d {}\n",
                                     command.name, fishQuoted(command.summary));
-    if (command.operandCompletes == Completes::nothing) {
-        lines += fmt::format("complete -c tamble -n {} -f", condition);
+    const bool takesFiles = command.operandCompletes == Completes::files;
+    if (!takesFiles || !command.operandWords.empty()) {
+        lines += fmt::format("complete -c tamble -n {}{}", condition, takesFiles ? "" : " -f");
         if (!command.operandWords.empty()) {
-            lines += fmt::format(" -a {}", fishQuoted(fmt::format("{}", fmt::join(command.operandWords, " "))));
+            lines +=
+                fmt::format(" -a {}", fishQuoted(fmt::format("{}", fmt::join(command.operandWords, " "))));
         }
         lines += '\n';
     }

@@ -72,12 +72,14 @@ std::string specifications(const CommandOption& option) {
     return lines;
 }
 
-std::string operandSpecification(const CommandDescription& command) {
+std::string operandSpecifications(const CommandDescription& command) {
+    std::string text;
     if (!command.operandWords.empty()) {
-        return shellQuoted(
-            fmt::format("1:{}:({})", plain(command.operands), fmt::join(command.operandWords, " ")));
+        text = shellQuoted(
+                   fmt::format("1:{}:({})", plain(command.operands), fmt::join(command.operandWords, " "))) +
+               " ";
     }
-    return shellQuoted(command.operandCompletes == Completes::files ? "*:file:_files" : "*: : ");
+    return text + shellQuoted(command.operandCompletes == Completes::files ? "*:file:_files" : "*: : ");
 }
 
 }  // namespace
@@ -92,7 +94,7 @@ std::string zshCompletion() {
     for (const auto& command : all) {
         script += fmt::format("        {})\n            _arguments -s \\\n", command.name);
         for (const auto& option : command.options) script += specifications(option);
-        script += fmt::format("                {}\n            ;;\n", operandSpecification(command));
+        script += fmt::format("                {}\n            ;;\n", operandSpecifications(command));
     }
     return script + std::string(scriptEnd);
 }

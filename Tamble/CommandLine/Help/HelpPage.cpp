@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t indent = 2;
 constexpr std::size_t gap = 2;
-constexpr std::size_t widestTerm = 30;
+constexpr std::size_t widestTerm = 26;
 /// Longer lines are hard to read.
 constexpr std::size_t widestPage = 100;
 constexpr std::size_t narrowestPage = 40;

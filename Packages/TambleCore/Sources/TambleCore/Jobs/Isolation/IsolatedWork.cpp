@@ -1,6 +1,8 @@
 #include <TambleCore/Jobs/Isolation/IsolatedWork.h>
 #include <TambleCore/Support/PathKey.h>
 
+#include <system_error>
+
 namespace tamble {
 namespace {
 
@@ -40,7 +42,10 @@ class Isolation {
     void conclude(const reply::Skipped& end) const { throw ProcessorSkip(end.value); }
     void conclude(const reply::Cancelled&) const { throw Cancelled(); }
     void conclude(const reply::Failed& end) const { throw Failure(end.code, end.sentence, end.detail); }
-    void conclude(const reply::Threw& end) const { throw std::runtime_error(end.value); }
+    void conclude(const reply::Threw& end) const {
+        if (end.systemError) throw std::system_error(*end.systemError, std::system_category(), end.value);
+        throw std::runtime_error(end.value);
+    }
     void conclude(const reply::OutOfMemory&) const {
         throw WorkerLost("The file takes more memory than a worker has.");
     }

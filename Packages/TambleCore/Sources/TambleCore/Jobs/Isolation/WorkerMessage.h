@@ -115,8 +115,10 @@ BOOST_DESCRIBE_STRUCT(OutOfMemory, (), ())
 struct Threw {
     static constexpr std::string_view caseName = "threw";
     std::string value;
+    /// The system's number of the error, of one that has it.
+    std::optional<int> systemError;
 };
-BOOST_DESCRIBE_STRUCT(Threw, (), (value))
+BOOST_DESCRIBE_STRUCT(Threw, (), (value, systemError))
 }  // namespace reply
 
 using WorkerReply = std::variant<reply::Ready, reply::Progress, reply::Done, reply::Estimated, reply::Skipped,

@@ -90,7 +90,8 @@ T decodeCase(const Json& document, const std::variant<Cases...>*) {
     std::optional<T> result;
     boost::mp11::mp_for_each<boost::mp11::mp_list<std::type_identity<Cases>...>>([&](auto identity) {
         using Case = typename decltype(identity)::type;
-        if (name == Case::caseName) result = T(decodeRecord<Case>(document.begin().value()));
+        if (name == Case::caseName)
+            result.emplace(std::in_place_type<Case>, decodeRecord<Case>(document.begin().value()));
     });
     if (!result) throw DecodeError("There is no case “" + name + "”.");
     return *result;
