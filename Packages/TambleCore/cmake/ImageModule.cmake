@@ -2,6 +2,7 @@
 pkg_check_modules(VIPS REQUIRED IMPORTED_TARGET vips-cpp)
 pkg_check_modules(WEBP REQUIRED IMPORTED_TARGET libwebp libwebpmux)
 pkg_check_modules(ZLIB REQUIRED IMPORTED_TARGET zlib)
+pkg_check_modules(JPEG REQUIRED IMPORTED_TARGET libjpeg)
 pkg_check_modules(TURBOJPEG REQUIRED IMPORTED_TARGET libturbojpeg)
 pkg_check_modules(LCMS REQUIRED IMPORTED_TARGET lcms2)
 pkg_check_modules(RAW REQUIRED IMPORTED_TARGET libraw_r)
@@ -15,5 +16,5 @@ add_library(TambleImages SHARED ${image_sources})
 target_precompile_headers(TambleImages PRIVATE <TambleCore/Support/Precompiled.h>)
 target_link_libraries(TambleImages
     PUBLIC TambleCore
-    PRIVATE tamble_options PkgConfig::VIPS PkgConfig::WEBP PkgConfig::TURBOJPEG PkgConfig::LCMS PkgConfig::RAW
-            PkgConfig::EXIV2 PkgConfig::ZLIB)
+    PRIVATE tamble_options PkgConfig::VIPS PkgConfig::WEBP PkgConfig::JPEG PkgConfig::TURBOJPEG PkgConfig::LCMS
+            PkgConfig::RAW PkgConfig::EXIV2 PkgConfig::ZLIB)

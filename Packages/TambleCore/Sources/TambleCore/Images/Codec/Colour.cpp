@@ -1,5 +1,6 @@
 #include <TambleCore/Images/Codec/Colour.h>
 #include <TambleCore/Images/Codec/ColourProfile.h>
+#include <TambleCore/Images/Codec/ColourTransform.h>
 
 namespace tamble {
 namespace {
@@ -59,16 +60,6 @@ vips::VImage shallow(const vips::VImage& image) {
     return image.colourspace(colourBands(image) == 1 ? VIPS_INTERPRETATION_B_W : VIPS_INTERPRETATION_sRGB);
 }
 
-vips::VImage inSRGB(const vips::VImage& image) {
-    // Alpha is only carried along at the depth it came in.
-    const vips::VImage input = image.has_alpha() && isDeep(image) && !isCmyk(image) ? shallow(image) : image;
-    return input.icc_transform("srgb", vips::VImage::option()
-                                           ->set("embedded", true)
-                                           ->set("intent", VIPS_INTENT_RELATIVE)
-                                           ->set("black_point_compensation", true)
-                                           ->set("depth", 8));
-}
-
 vips::VImage onWhite(const vips::VImage& image) {
     const double white = isDeep(image) ? 65535 : 255;
     return image.flatten(vips::VImage::option()->set("background", std::vector<double>{white}));
@@ -84,11 +75,11 @@ ColouredPicture colouredFor(vips::VImage image, ImageFormat format, bool isOwnFo
     if (isCmyk(image)) {
         const bool stays = isOwnFormat && (format == ImageFormat::jpeg || format == ImageFormat::tiff);
         if (!stays) {
-            image = profile ? inSRGB(image) : image.colourspace(VIPS_INTERPRETATION_sRGB);
+            image = profile ? toSRGB(image, *profile) : image.colourspace(VIPS_INTERPRETATION_sRGB);
             profile.reset();
         }
     } else if (profile && !carriesProfile(format, colourBands(image))) {
-        if (!isSRGB(*profile)) image = inSRGB(image);
+        if (!isSRGB(*profile)) image = toSRGB(image, *profile);
         profile.reset();
     }
     if (isDeep(image) && !isCmyk(image) && !carriesDepth(format)) image = shallow(image);

@@ -1,12 +1,16 @@
 #include <TambleCore/Images/Codec/Colour.h>
+#include <TambleCore/Images/Codec/ColourProfile.h>
 #include <TambleCore/Images/Codec/Conversion.h>
 #include <TambleCore/Images/Codec/CutOut.h>
 #include <TambleCore/Images/Codec/Decoded.h>
 #include <TambleCore/Images/Codec/Encoders.h>
 #include <TambleCore/Images/Codec/FewColours.h>
 #include <TambleCore/Images/Codec/Geometry.h>
+#include <TambleCore/Images/Codec/Jpeg/JpegRescaling.h>
+#include <TambleCore/Images/Codec/Jpeg/JpegToWebP.h>
 #include <TambleCore/Images/ConversionError.h>
 #include <TambleCore/Images/Lossless/LosslessEdit.h>
+#include <TambleCore/Images/Metadata/Exif/TiffStructure.h>
 #include <TambleCore/Images/Metadata/ReadMetadata.h>
 
 namespace tamble {
@@ -72,21 +76,42 @@ std::optional<Bytes> Conversion::edited() const {
     return std::nullopt;
 }
 
+std::optional<EncodedPicture> Conversion::encodedFromJpeg(const MetadataBlocks& source,
+                                                          const Encoding& encoding,
+                                                          const Watch& watch) const {
+    if (container != Container::jpeg || settings.removeBackground) return std::nullopt;
+    const int stored = source.exif ? tiff::orientation(*source.exif) : 1;
+    const Turn turn = Turn::upright(stored).then(Turn::rotation(settings.rotation));
+    if (format == ImageFormat::jpeg)
+        return rescaledJpeg(file, settings.maxPixelSize, turn, encoding, context);
+    if (format == ImageFormat::webp && (!source.icc || isSRGB(*source.icc))) {
+        return webPOfJpeg(file, settings.maxPixelSize, turn, encoding, watch);
+    }
+    return std::nullopt;
+}
+
 Bytes Conversion::encoded() const {
+    const MetadataRemoval removal = metadataRemoval(settings);
+    MetadataBlocks source = readMetadata(file);
+    Encoding encoding{.factor = compressionFactor(settings.quality), .smallest = settings.skipIfNotSmaller};
     Watch watch(context, decodingShare(format));
     try {
+        if (auto quick = encodedFromJpeg(source, encoding, watch)) {
+            if (format == ImageFormat::webp) source.icc.reset();
+            const MetadataBlocks blocks =
+                carriedOver(std::move(source), removal, quick->size.width, quick->size.height);
+            return withMetadata(std::move(quick->bytes), format, blocks);
+        }
         vips::VImage picture = decoded(file, container, settings.maxPixelSize, settings.rotation, watch);
         if (settings.removeBackground) picture = cutOut(picture, context);
         ColouredPicture coloured = colouredFor(picture, format, keepsFormat());
-        Encoding encoding{.factor = compressionFactor(settings.quality),
-                          .smallest = settings.skipIfNotSmaller};
         if (format == ImageFormat::webp && keepsExactPixels(container, file)) {
             coloured.image = held(coloured.image);
             encoding.lossless = hasFewColours(coloured.image);
         }
-        MetadataBlocks blocks = carriedOver(readMetadata(file), metadataRemoval(settings),
-                                            coloured.image.width(), coloured.image.height());
-        blocks.icc = std::move(coloured.profile);
+        source.icc = std::move(coloured.profile);
+        const MetadataBlocks blocks =
+            carriedOver(std::move(source), removal, coloured.image.width(), coloured.image.height());
         return encodedAs(format, coloured.image, encoding, blocks, watch);
     } catch (const vips::VError& error) {
         context.throwIfStopped();

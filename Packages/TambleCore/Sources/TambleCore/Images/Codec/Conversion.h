@@ -1,6 +1,7 @@
 #pragma once
 
 #include <TambleCore/Images/Codec/Container.h>
+#include <TambleCore/Images/Codec/Encoders.h>
 #include <TambleCore/Images/ImageJobSettings.h>
 #include <TambleCore/Support/WorkContext.h>
 
@@ -23,6 +24,9 @@ struct Conversion {
     /// Without decoding the picture, where what is asked for and the file allow it.
     std::optional<Bytes> edited() const;
     Bytes encoded() const;
+    /// A JPEG on the short way that its channels allow, where one is known to the format.
+    std::optional<EncodedPicture> encodedFromJpeg(const MetadataBlocks& source, const Encoding& encoding,
+                                                  const Watch& watch) const;
 };
 
 }  // namespace tamble

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <TambleCore/Images/Codec/Geometry.h>
 #include <TambleCore/Images/Codec/Watch.h>
 #include <TambleCore/Images/Metadata/Metadata.h>
 
@@ -13,6 +14,12 @@ struct Encoding {
     bool smallest = false;
     /// WebP only: keep every pixel as it is.
     bool lossless = false;
+};
+
+/// An encoded picture without any metadata or profile, and its sides.
+struct EncodedPicture {
+    Bytes bytes;
+    PictureSize size;
 };
 
 // Each answers the encoded picture without any metadata or profile, or throws vips::VError when the pixels

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <TambleCore/Images/Codec/Geometry.h>
+#include <TambleCore/Images/Codec/WebPPictureEncoder.h>
 
 #include <cstdint>
 #include <vector>
-
-#include <webp/encode.h>
 
 namespace tamble {
 
@@ -13,21 +11,18 @@ namespace tamble {
 /// encoding calls make of the whole picture at once, without the whole picture ever being there.
 class WebPRows {
   public:
-    /// `bands` is 3 or 4. Throws ConversionError::encodeFailed when there is not enough memory.
+    /// `bands` is 3 or 4. Throws as WebPPlanes does.
     WebPRows(PictureSize size, int bands, bool lossless);
-    ~WebPRows() { WebPPictureFree(&picture_); }
-    WebPRows(const WebPRows&) = delete;
-    WebPRows& operator=(const WebPRows&) = delete;
 
     /// The next rows, in order from the top.
     void take(int top, int height, const std::uint8_t* pixels, std::size_t stride);
 
-    WebPPicture& picture() { return picture_; }
+    WebPPicture& picture() { return planes_.picture(); }
 
   private:
     void import(int top, int height, const std::uint8_t* pixels, std::size_t stride);
 
-    WebPPicture picture_;
+    WebPPlanes planes_;
     int bands_;
     /// Two rows: the last of a piece with an odd number of them waits for its neighbour, since colour is
     /// shared in blocks of two by two pixels.
