@@ -99,14 +99,15 @@ bool JpegReader::hasLuma() const {
 }
 
 void JpegReader::shrink(int divisor) {
-    state_->codec.scale_num = 1;
-    state_->codec.scale_denom = static_cast<unsigned>(divisor);
-    jpeg_calc_output_dimensions(&state_->codec);
-}
-
-PictureSize JpegReader::channelSize(int channel) const {
-    const auto& component = state_->codec.comp_info[channel];
-    return {static_cast<int>(component.downsampled_width), static_cast<int>(component.downsampled_height)};
+    auto& codec = state_->codec;
+    codec.scale_num = 1;
+    codec.scale_denom = static_cast<unsigned>(divisor);
+    jpeg_calc_output_dimensions(&codec);
+    channelSizes_.clear();
+    for (const auto& component : std::span(codec.comp_info, static_cast<std::size_t>(codec.num_components))) {
+        channelSizes_.push_back(
+            {static_cast<int>(component.downsampled_width), static_cast<int>(component.downsampled_height)});
+    }
 }
 
 void JpegReader::read(const std::function<void(std::span<const PlaneRows>)>& take) {
@@ -132,16 +133,15 @@ void JpegReader::read(const std::function<void(std::span<const PlaneRows>)>& tak
         for (std::size_t row = 0; row < height; ++row)
             band.rows.push_back(band.samples.data() + row * stride);
         pointers[channel] = band.rows.data();
-        rows[channel] = {.width = static_cast<int>(component.downsampled_width),
-                         .samples = band.samples.data(),
-                         .stride = stride};
+        rows[channel] = {
+            .width = channelSizes_[channel].width, .samples = band.samples.data(), .stride = stride};
     }
     const auto lines = static_cast<JDIMENSION>(codec.max_v_samp_factor * codec.min_DCT_scaled_size);
     while (codec.output_scanline < codec.output_height) {
         context_.throwIfStopped();
         check(state_->readBand(pointers.data(), lines));
         for (std::size_t channel = 0; channel < count; ++channel) {
-            const auto wholeHeight = static_cast<int>(codec.comp_info[channel].downsampled_height);
+            const int wholeHeight = channelSizes_[channel].height;
             rows[channel].height =
                 std::min(static_cast<int>(bands[channel].rows.size()), wholeHeight - rows[channel].top);
         }

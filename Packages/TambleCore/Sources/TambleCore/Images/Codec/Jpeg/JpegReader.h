@@ -30,9 +30,9 @@ class JpegReader {
     bool hasLuma() const;
     int channels() const;
 
-    /// Divides the sides by 1, 2, 4 or 8 while decoding. To be called before the sizes are asked for.
+    /// Divides the sides by 1, 2, 4 or 8 while decoding. To be called once, before what follows.
     void shrink(int divisor);
-    PictureSize channelSize(int channel) const;
+    const std::vector<PictureSize>& channelSizes() const { return channelSizes_; }
 
     /// Hands over all rows from top to bottom, one row of blocks of every channel at a time. Throws
     /// ConversionError::cannotDecode at the first sign of damage; Cancelled.
@@ -42,6 +42,7 @@ class JpegReader {
     struct State;
     std::unique_ptr<State> state_;
     const WorkContext& context_;
+    std::vector<PictureSize> channelSizes_;
 };
 
 }  // namespace tamble

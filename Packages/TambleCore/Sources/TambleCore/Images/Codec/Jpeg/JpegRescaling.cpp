@@ -19,11 +19,10 @@ vips::VImage plane(std::span<std::uint8_t> samples, PictureSize size) {
 
 std::vector<std::vector<std::uint8_t>> channelsOf(JpegReader& reader, const WorkContext& context) {
     std::vector<std::vector<std::uint8_t>> channels;
-    for (int channel = 0; channel < reader.channels(); ++channel) {
-        const PictureSize size = reader.channelSize(channel);
+    for (const PictureSize& size : reader.channelSizes()) {
         channels.emplace_back(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height));
     }
-    const int height = reader.channelSize(0).height;
+    const int height = reader.channelSizes().front().height;
     reader.read([&](std::span<const PlaneRows> rows) {
         for (std::size_t channel = 0; channel < rows.size(); ++channel) {
             const PlaneRows& from = rows[channel];
@@ -55,8 +54,8 @@ std::optional<EncodedPicture> rescaledJpeg(ByteView file, std::optional<int> max
     std::vector<vips::VImage> planes;
     for (std::size_t channel = 0; channel < channels.size(); ++channel) {
         context.throwIfStopped();
-        const PictureSize from = reader.channelSize(static_cast<int>(channel));
-        const vips::VImage image = scaled(plane(channels[channel], from), channel == 0 ? size : colourSize);
+        const vips::VImage image = scaled(plane(channels[channel], reader.channelSizes()[channel]),
+                                          channel == 0 ? size : colourSize);
         planes.push_back(turned(image, turn).copy_memory());
         // Its samples are no longer needed.
         channels[channel] = {};

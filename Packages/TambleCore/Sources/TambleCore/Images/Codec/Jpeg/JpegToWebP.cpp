@@ -111,10 +111,10 @@ std::optional<EncodedPicture> webPOfJpeg(ByteView file, std::optional<int> maxPi
         return std::nullopt;
     if ((size.width % 2 != 0 || size.height % 2 != 0) && turn != Turn{}) return std::nullopt;
     reader.shrink(1);
-    const PictureSize colour = reader.channelSize(1);
+    const PictureSize colour = reader.channelSizes()[1];
     const int acrossX = across(size.width, colour.width);
     const int acrossY = across(size.height, colour.height);
-    if (acrossX == 0 || acrossY == 0 || reader.channelSize(2) != colour) return std::nullopt;
+    if (acrossX == 0 || acrossY == 0 || reader.channelSizes()[2] != colour) return std::nullopt;
 
     const PictureSize upright = turnedSize(size, turn);
     WebPPlanes planes(upright, {.lossless = false, .hasAlpha = false});
