@@ -16,5 +16,5 @@ add_library(TambleImages SHARED ${image_sources})
 target_precompile_headers(TambleImages PRIVATE <TambleCore/Support/Precompiled.h>)
 target_link_libraries(TambleImages
     PUBLIC TambleCore
-    PRIVATE tamble_options PkgConfig::VIPS PkgConfig::WEBP PkgConfig::JPEG PkgConfig::TURBOJPEG PkgConfig::LCMS PkgConfig::RAW
-            PkgConfig::EXIV2 PkgConfig::ZLIB)
+    PRIVATE tamble_options PkgConfig::VIPS PkgConfig::WEBP PkgConfig::JPEG PkgConfig::TURBOJPEG PkgConfig::LCMS
+            PkgConfig::RAW PkgConfig::EXIV2 PkgConfig::ZLIB)

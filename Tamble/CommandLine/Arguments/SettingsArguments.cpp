@@ -170,9 +170,9 @@ std::string settingText(const Json& value) {
     if (value.is_null()) return "none";
     if (value.is_string()) return value.get<std::string>();
     if (!value.is_object() || value.size() != 1) return writeJson(value);
-    const auto& [name, payload] = *value.items().begin();
-    const bool hasPayload = payload.is_object() && payload.contains("_0");
-    return hasPayload ? fmt::format("{}:{}", name, settingText(payload["_0"])) : name;
+    const auto chosen = value.begin();
+    const bool hasPayload = chosen->is_object() && chosen->contains("_0");
+    return hasPayload ? fmt::format("{}:{}", chosen.key(), settingText((*chosen)["_0"])) : chosen.key();
 }
 
 }  // namespace tamble

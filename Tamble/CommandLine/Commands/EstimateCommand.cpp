@@ -3,6 +3,7 @@
 #include <Tamble/CommandLine/Arguments/SettingsArguments.h>
 #include <Tamble/CommandLine/Arguments/UsageError.h>
 #include <Tamble/CommandLine/Commands/Commands.h>
+#include <Tamble/CommandLine/Commands/Isolation.h>
 #include <Tamble/CommandLine/Help/HelpPages.h>
 #include <Tamble/CommandLine/Report/NothingFound.h>
 #include <Tamble/CommandLine/Text/Amounts.h>
@@ -17,7 +18,7 @@ namespace {
 ExitStatus printEstimate(const ToolDefinition& tool, const ParsedArguments& arguments,
                          const ScanResult& scan) {
     const Json settings = settingsFrom(tool, arguments);
-    const auto bytes = tool.estimate ? tool.estimate(scan.files, settings, {}) : std::nullopt;
+    const auto bytes = protectedEstimate(tool, scan.files, settings);
     if (arguments.has("json")) {
         Json json = Json::object();
         json["toolID"] = tool.id;

@@ -3,6 +3,7 @@
 #include <Tamble/CommandLine/Arguments/SettingsArguments.h>
 #include <Tamble/CommandLine/Arguments/UsageError.h>
 #include <Tamble/CommandLine/Commands/Commands.h>
+#include <Tamble/CommandLine/Commands/Isolation.h>
 #include <Tamble/CommandLine/Progress/ProgressDisplay.h>
 #include <Tamble/CommandLine/Progress/StopSignals.h>
 #include <Tamble/CommandLine/Progress/WatchedProcessor.h>
@@ -20,7 +21,7 @@ namespace tamble {
 namespace {
 
 /// Everything that was typed, understood before anything is done.
-struct JobRequest {
+struct TypedJob {
     ToolWork work;
     JobConfiguration configuration;
     std::vector<std::filesystem::path> paths;
@@ -29,14 +30,14 @@ struct JobRequest {
     bool wantsJson = false;
 };
 
-JobRequest jobRequest(const ToolDefinition& tool, const CommandDescription& command,
-                      const ParsedArguments& arguments) {
-    JobRequest request{.work = tool.makeWork(settingsFrom(tool, arguments)),
-                       .configuration = jobConfiguration(arguments),
-                       .paths = inputPaths(command, arguments, std::cin),
-                       .scanOptions = ScanOptions(!arguments.has("no-subfolders")),
-                       .isDryRun = arguments.has("dry-run"),
-                       .wantsJson = arguments.has("json")};
+TypedJob jobRequest(const ToolDefinition& tool, const CommandDescription& command,
+                    const ParsedArguments& arguments) {
+    TypedJob request{.work = protectedWork(tool, settingsFrom(tool, arguments)),
+                     .configuration = jobConfiguration(arguments),
+                     .paths = inputPaths(command, arguments, std::cin),
+                     .scanOptions = ScanOptions(!arguments.has("no-subfolders")),
+                     .isDryRun = arguments.has("dry-run"),
+                     .wantsJson = arguments.has("json")};
     request.scanOptions.accepts = tool.accepts;
     return request;
 }
@@ -45,7 +46,7 @@ JobEngine systemEngine() {
     return {.fileOps = std::make_shared<SystemFileOperations>()};
 }
 
-JobPlan planOf(const JobRequest& request, std::span<const InputFile> files) {
+JobPlan planOf(const TypedJob& request, std::span<const InputFile> files) {
     if (const auto* processor = std::get_if<std::unique_ptr<FileProcessor>>(&request.work)) {
         return systemEngine().plan(files, **processor, request.configuration);
     }
@@ -53,7 +54,7 @@ JobPlan planOf(const JobRequest& request, std::span<const InputFile> files) {
                                        request.configuration);
 }
 
-ExitStatus showPlan(const JobRequest& request, const ScanResult& scan) {
+ExitStatus showPlan(const TypedJob& request, const ScanResult& scan) {
     const JobPlan plan = planOf(request, scan.files);
     if (request.wantsJson) {
         printOutput(writeIndentedJson(jobPlanJson(scan.files, plan)) + '\n');
@@ -73,7 +74,7 @@ void answerSignal(ProgressDisplay& display, std::stop_source& stop) {
     }
 }
 
-JobResult runWatched(const JobRequest& request, std::vector<InputFile> files, ProgressDisplay& display,
+JobResult runWatched(const TypedJob& request, std::vector<InputFile> files, ProgressDisplay& display,
                      std::stop_token stop) {
     const auto onProgress = [&display](const JobProgress& progress) { display.update(progress); };
     if (const auto* processor = std::get_if<std::unique_ptr<FileProcessor>>(&request.work)) {
@@ -107,8 +108,7 @@ struct FinishedJob {
 };
 
 /// A signal is answered until the job is remembered: what was saved must be possible to undo.
-FinishedJob runAndRemember(const std::string& toolID, const JobRequest& request,
-                           std::vector<InputFile> files) {
+FinishedJob runAndRemember(const std::string& toolID, const TypedJob& request, std::vector<InputFile> files) {
     ProgressDisplay display(Terminal::errors());
     std::stop_source stop;
     const StopSignals signals([&] { answerSignal(display, stop); });
@@ -128,7 +128,7 @@ ExitStatus exitStatus(const JobResult& result, const ScanResult& scan) {
 
 ExitStatus runTool(const ToolDefinition& tool, const CommandDescription& command,
                    const ParsedArguments& arguments) {
-    const JobRequest request = jobRequest(tool, command, arguments);
+    const TypedJob request = jobRequest(tool, command, arguments);
     ScanResult scan = FolderScanner{request.scanOptions}.scan(request.paths);
     for (const auto& note : scanNotes(scan)) printError(note + '\n');
     const bool isEmpty = scan.files.empty();

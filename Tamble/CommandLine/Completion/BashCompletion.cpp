@@ -59,7 +59,7 @@ std::string valueLines(const CommandOption& option) {
             fmt::format(" _tamble_words {};", shellQuoted(fmt::format("{}", fmt::join(option.words, " "))));
     if (option.completes == Completes::folders) lines += " compopt -o plusdirs 2>/dev/null;";
     // Without words the shell's own completion of file names takes over.
-    return lines + " return ;;\n";
+    return lines + " return 0 ;;\n";
 }
 
 std::string commandLines(const CommandDescription& command, std::string_view name) {

@@ -89,7 +89,7 @@ std::string settingsText(const ToolInfo& info) {
 std::string manPage() {
     std::string page = fmt::format(
         ".TH TAMBLE 1 \"\" \"Tamble {}\"\n.SH NAME\ntamble \\- every everyday file tool in one place\n"
-        ".SH SYNOPSIS\n.B tamble\n.I TOOL PATH\n.RI ... [ options ]\n.br\n.B tamble\n.I COMMAND\n",
+        ".SH SYNOPSIS\n.B tamble\n.I TOOL PATH\n\\&...\n.RI [ options ]\n.br\n.B tamble\n.I COMMAND\n",
         version);
     page += ".SH DESCRIPTION\n" + escaped(overviewPage().summary) + "\n";
     page += ".SH COMMANDS\n";

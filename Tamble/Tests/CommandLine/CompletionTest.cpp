@@ -10,15 +10,15 @@ using testing::HasSubstr;
 
 /// What bash answers at the end of the line.
 std::string bashAnswers(const Home& home, const std::string& line) {
-    const Run run = home.shell("source <(" TAMBLE_PROGRAM
-                               " completion bash)\n"
-                               "COMP_LINE='" +
-                               line +
-                               "' COMP_POINT=${#COMP_LINE}\n"
-                               "read -r -a COMP_WORDS <<<\"$COMP_LINE\"\n"
-                               "[[ $COMP_LINE == *' ' ]] && COMP_WORDS+=('')\n"
-                               "COMP_CWORD=$((${#COMP_WORDS[@]} - 1))\n"
-                               "_tamble && echo \"${COMPREPLY[*]}\"");
+    const Finished run = home.shell("source <(" TAMBLE_PROGRAM
+                                    " completion bash)\n"
+                                    "COMP_LINE='" +
+                                    line +
+                                    "' COMP_POINT=${#COMP_LINE}\n"
+                                    "read -r -a COMP_WORDS <<<\"$COMP_LINE\"\n"
+                                    "[[ $COMP_LINE == *' ' ]] && COMP_WORDS+=('')\n"
+                                    "COMP_CWORD=$((${#COMP_WORDS[@]} - 1))\n"
+                                    "_tamble && echo \"${COMPREPLY[*]}\"");
     EXPECT_EQ(run.errors, "");
     return run.output.empty() ? run.output : run.output.substr(0, run.output.size() - 1);
 }
@@ -44,8 +44,9 @@ TEST(Completion, BashAnswersWords) {
 TEST(Completion, EveryShellReadsItsScript) {
     const Home home;
     for (const std::string shell : {"bash", "zsh", "fish"}) {
-        const Run run = home.shell(TAMBLE_PROGRAM " completion " + shell + " > script && if command -v " +
-                                   shell + " > /dev/null; then " + shell + " -n script; fi");
+        const Finished run =
+            home.shell(TAMBLE_PROGRAM " completion " + shell + " > script && if command -v " + shell +
+                       " > /dev/null; then " + shell + " -n script; fi");
         EXPECT_EQ(run.status, 0) << shell << ": " << run.errors;
         EXPECT_EQ(run.errors, "") << shell;
     }
@@ -70,8 +71,7 @@ TEST(Completion, FishAnswersWords) {
 TEST(ManPage, HasNoFaultAndNamesEveryOption) {
     const Home home;
     if (home.shell("command -v groff").status != 0) GTEST_SKIP() << "groff is not installed";
-    const Run run =
-        home.shell(TAMBLE_PROGRAM " man | groff -man -ww -Tutf8 -Kutf8 | sed 's/\\x1b\\[[0-9;]*m//g'");
+    const Finished run = home.shell(TAMBLE_PROGRAM " man | groff -man -ww -Tutf8 -Kutf8 -P-cbu");
     EXPECT_EQ(run.errors, "");
     EXPECT_THAT(run.output,
                 AllOf(HasSubstr("tamble undo [ID]"), HasSubstr("--to webp"), HasSubstr("EXIT STATUS"),

@@ -3,6 +3,7 @@
 #include <TambleCore/Support/FileURL.h>
 #include <TambleCore/Support/Json/Json.h>
 
+#include <array>
 #include <csignal>
 #include <regex>
 #include <thread>
@@ -28,14 +29,14 @@ TEST(Job, SavesNextToTheOriginalsAndIsTakenBackToTheByte) {
     home.addFile("Photos/notes.txt", "not a picture");
     const auto before = home.contents();
 
-    const Run run = home.tamble({"image.convert", "--to", "png", "Photos"});
+    const Finished run = home.tamble({"image.convert", "--to", "png", "Photos"});
     EXPECT_EQ(run.status, 0) << run.errors;
     EXPECT_EQ(run.errors, "");
     EXPECT_THAT(run.output, MatchesRegex("Saved 3 new files, [0-9.]+ kB → .*\\. To undo: tamble undo\n"));
     EXPECT_TRUE(fs::exists(home.folder() / "Photos/deeper/3.png"));
 
     EXPECT_THAT(home.tamble({"activity"}).output, AllOf(HasSubstr("Convert"), HasSubstr("3 new files")));
-    const Run undo = home.tamble({"undo"});
+    const Finished undo = home.tamble({"undo"});
     EXPECT_EQ(undo.status, 0);
     EXPECT_THAT(undo.output, HasSubstr("3 new files removed"));
     EXPECT_EQ(home.contents(), before);
@@ -65,8 +66,9 @@ TEST(Job, JsonIsOneDocumentWithOneOutcomeForEachInput) {
     home.addPicture("3.bmp");
     ASSERT_EQ(home.tamble({"image.convert", "--to", "png", "3.bmp"}).status, 0);
 
-    const Run run = home.tamble({"image.convert", "--to", "png", "--json", "3.png", "2.png", "1.bmp",
-                                 "--save", "out", "--no-skip-if-already-in-format", "--remove-location"});
+    const Finished run =
+        home.tamble({"image.convert", "--to", "png", "--json", "3.png", "2.png", "1.bmp", "--save", "out",
+                     "--no-skip-if-already-in-format", "--remove-location"});
     EXPECT_EQ(run.status, 1);
     EXPECT_THAT(run.errors, HasSubstr("2.png: Couldn't open this file."));
     const Json result = parseJson(run.output);
@@ -87,10 +89,10 @@ TEST(Job, SkippedAndFailedFilesAreToldWithTheirReasons) {
     home.addPicture("a.bmp");
     home.addFile("broken.png", "no");
     ASSERT_EQ(home.tamble({"image.convert", "--to", "png", "a.bmp"}).status, 0);
-    const Run run = home.tamble({"image.convert", "--to", "png", "a.png"});
+    const Finished run = home.tamble({"image.convert", "--to", "png", "a.png"});
     EXPECT_EQ(run.status, 0);
     EXPECT_THAT(run.output, AllOf(HasSubstr("Nothing was saved. 1 skipped: "), Not(HasSubstr("undo"))));
-    const Run failed = home.tamble({"image.convert", "--to", "webp", "broken.png", "a.bmp"});
+    const Finished failed = home.tamble({"image.convert", "--to", "webp", "broken.png", "a.bmp"});
     EXPECT_EQ(failed.status, 1);
     EXPECT_THAT(failed.output,
                 AllOf(HasSubstr("Saved 1 new file"), HasSubstr("1 failed: Couldn't open this file.")));
@@ -104,12 +106,13 @@ TEST(Job, ADryRunShowsEveryPlaceAndTouchesNothing) {
     home.addPicture("Photos/sub/a.bmp");
     home.addFile("Photos/a.webp", "taken");
     const auto before = home.contents();
-    const Run run = home.tamble({"image.convert", "-n", "Photos"});
+    const Finished run = home.tamble({"image.convert", "-n", "Photos"});
     EXPECT_EQ(run.status, 0);
     EXPECT_THAT(run.output, AllOf(HasSubstr("Photos/a.bmp → Photos/a 2.webp\n"),
                                   HasSubstr("Photos/sub/a.bmp → Photos/sub/a.webp\n"),
                                   HasSubstr("Nothing was touched.")));
-    const Run into = home.tamble({"image.convert", "Photos", "--dry-run", "--json", "--save", "new/place"});
+    const Finished into =
+        home.tamble({"image.convert", "Photos", "--dry-run", "--json", "--save", "new/place"});
     const Json plan = parseJson(into.output);
     EXPECT_EQ(plan.at("items").at(2).at("outcome").at("planned").at("_0"),
               fileURL(home.folder() / "new/place/a 2.webp"));
@@ -129,14 +132,14 @@ TEST(Job, OddNamesGoThroughAndNeverReachTheTerminalRaw) {
     for (const auto& name : names) home.addPicture(name);
     std::vector<std::string> words{"image.convert", "--to", "png", "--"};
     words.insert(words.end(), names.begin(), names.end());
-    const Run run = home.tamble(words);
+    const Finished run = home.tamble(words);
     EXPECT_EQ(run.status, 0) << run.errors;
     for (const auto& name : names) {
         EXPECT_TRUE(fs::exists(home.folder() / (name.substr(0, name.size() - 3) + "png"))) << safeText(name);
     }
     std::string list;
     for (const auto& name : names) list += name + '\0';
-    const Run plan = home.tamble({"image.convert", "-n0"}, list);
+    const Finished plan = home.tamble({"image.convert", "-n0"}, list);
     EXPECT_EQ(plan.status, 0) << plan.errors;
     EXPECT_THAT(plan.output,
                 AllOf(HasSubstr("line\\nbreak.bmp → "), HasSubstr("-n.bmp → "), Not(HasSubstr("\x1b"))));
@@ -146,10 +149,10 @@ TEST(Job, OddNamesGoThroughAndNeverReachTheTerminalRaw) {
 TEST(Job, NothingToWorkOnIsSaid) {
     const Home home;
     home.addFile("notes.txt", "words");
-    const Run run = home.tamble({"image.convert", "notes.txt"});
+    const Finished run = home.tamble({"image.convert", "notes.txt"});
     EXPECT_EQ(run.status, 1);
     EXPECT_THAT(run.errors, HasSubstr("None of 1 file"));
-    const Run gone = home.tamble({"image.convert", "-0"}, std::string("gone.bmp\0", 9));
+    const Finished gone = home.tamble({"image.convert", "-0"}, std::string("gone.bmp\0", 9));
     EXPECT_EQ(gone.status, 1);
     EXPECT_THAT(gone.errors, HasSubstr("1 items couldn't be read."));
 }
@@ -159,7 +162,7 @@ TEST(Job, CtrlCDuringProcessingSavesNothing) {
     const auto large = home.addPicture("0.bmp", 3000, 2000);
     for (int i = 1; i < 30; ++i) fs::create_hard_link(large, home.folder() / (std::to_string(i) + ".bmp"));
     const auto before = home.contents().size();
-    const Run run = home.tamble({"image.convert", "--to", "avif", "."}, {}, [](pid_t program) {
+    const Finished run = home.tamble({"image.convert", "--to", "avif", "."}, {}, [](pid_t program) {
         std::this_thread::sleep_for(std::chrono::milliseconds(700));
         kill(program, SIGINT);
         kill(program, SIGINT);
@@ -176,15 +179,16 @@ TEST(Job, ProgressIsOneLineThatFitsTheTerminal) {
     for (int i = 0; i < 12; ++i)
         home.addPicture("写真の長い名前 \x1b[7m" + std::to_string(i) + ".bmp", 900, 700);
     const std::regex steering("\x1b\\[[0-9;]*[mK]");
-    for (const unsigned short cells : {10, 40, 100}) {
-        const Run run = home.tambleOnTerminal({"image.convert", "--to", "webp", "-n", "."}, cells);
-        EXPECT_EQ(run.status, 0);
-        const Run drawn = home.tambleOnTerminal({"image.convert", "--save", "out", "."}, cells, cells == 40);
+    for (const unsigned short cells : std::array<unsigned short, 3>{10, 40, 100}) {
+        const bool noColour = cells == 40;
+        const Finished drawn =
+            home.tambleOnTerminal({"image.convert", "--save", "out", "."}, cells, noColour);
         EXPECT_THAT(drawn.errors, HasSubstr("\r"));
-        EXPECT_EQ(drawn.errors.find("\x1b[7m"), std::string::npos);
-        if (cells == 40)
-            EXPECT_EQ(std::regex_replace(drawn.errors, std::regex("\x1b\\[K"), "").find('\x1b'),
-                      std::string::npos);
+        EXPECT_THAT(drawn.errors, Not(HasSubstr("\x1b[7m")));
+        if (noColour) {
+            const std::string withoutErasing = std::regex_replace(drawn.errors, std::regex("\x1b\\[K"), "");
+            EXPECT_THAT(withoutErasing, Not(HasSubstr("\x1b")));
+        }
         std::istringstream lines(std::regex_replace(drawn.errors, steering, ""));
         for (std::string line; std::getline(lines, line, '\r');) {
             if (line.ends_with('\n')) line.pop_back();
@@ -201,7 +205,7 @@ TEST(Scan, TellsWhatIsThereAndWhichToolsFit) {
     home.addPicture("Album/2024/2.bmp");
     home.addFile("Album/notes.xyz", "?");
     fs::create_symlink("1.bmp", home.folder() / "Album/link.bmp");
-    const Run run = home.tamble({"scan", "Album"});
+    const Finished run = home.tamble({"scan", "Album"});
     EXPECT_EQ(run.status, 0);
     EXPECT_THAT(run.output, AllOf(HasSubstr("Album/"), HasSubstr("2 photos"), HasSubstr("image.convert")));
     EXPECT_THAT(run.errors, HasSubstr("Shortcuts to other folders aren't followed."));

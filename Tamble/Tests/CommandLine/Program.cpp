@@ -88,8 +88,8 @@ Home::~Home() {
     fs::remove_all(root_, ignored);
 }
 
-Run Home::tamble(const std::vector<std::string>& words, const std::string& input,
-                 const std::function<void(pid_t)>& whileRunning) const {
+Finished Home::tamble(const std::vector<std::string>& words, const std::string& input,
+                      const std::function<void(pid_t)>& whileRunning) const {
     const fs::path in = root_ / "in";
     std::ofstream(in, std::ios::binary) << input;
     const std::vector<std::string> all = withProgram(words);
@@ -106,7 +106,8 @@ Run Home::tamble(const std::vector<std::string>& words, const std::string& input
     return {status, contentOf(root_ / "out"), contentOf(root_ / "err")};
 }
 
-Run Home::tambleOnTerminal(const std::vector<std::string>& words, unsigned short cells, bool noColour) const {
+Finished Home::tambleOnTerminal(const std::vector<std::string>& words, unsigned short cells,
+                                bool noColour) const {
     const std::vector<std::string> all = withProgram(words);
     winsize size{.ws_row = 24, .ws_col = cells, .ws_xpixel = 0, .ws_ypixel = 0};
     int terminal = -1;
@@ -124,7 +125,7 @@ Run Home::tambleOnTerminal(const std::vector<std::string>& words, unsigned short
     return {statusOf(child), contentOf(root_ / "out"), std::move(received)};
 }
 
-Run Home::shell(const std::string& command) const {
+Finished Home::shell(const std::string& command) const {
     const pid_t child = fork();
     if (child == 0) {
         enter(root_, work_);

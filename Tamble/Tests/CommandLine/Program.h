@@ -10,7 +10,7 @@
 namespace tamble::test {
 
 /// What a run of the real program left.
-struct Run {
+struct Finished {
     int status = 0;
     std::string output;
     std::string errors;
@@ -29,13 +29,13 @@ class Home {
     const std::filesystem::path& data() const { return data_; }
 
     /// Runs `tamble` with these words in folder(). `whileRunning` is called once it was started.
-    Run tamble(const std::vector<std::string>& words, const std::string& input = {},
+    Finished tamble(const std::vector<std::string>& words, const std::string& input = {},
                const std::function<void(pid_t)>& whileRunning = {}) const;
     /// Runs it with standard error on a terminal of so many cells; its output is what the terminal received.
-    Run tambleOnTerminal(const std::vector<std::string>& words, unsigned short cells,
+    Finished tambleOnTerminal(const std::vector<std::string>& words, unsigned short cells,
                          bool noColour = false) const;
     /// Runs a shell command in folder().
-    Run shell(const std::string& command) const;
+    Finished shell(const std::string& command) const;
 
     /// A picture of one colour with a gradient: an uncompressed 24-bit BMP.
     std::filesystem::path addPicture(const std::filesystem::path& name, int width = 64,

@@ -18,8 +18,8 @@ class IsolationTest : public testing::Test {
         folder_ = ::mkdtemp(pattern.data());
         std::filesystem::create_directories(staging());
         limits_.stopping = std::chrono::milliseconds(300);
-        limits_.idle = std::chrono::milliseconds(700);
-        limits_.processor = std::chrono::milliseconds(1000);
+        limits_.idle = std::chrono::milliseconds(1500);
+        limits_.processor = std::chrono::milliseconds(800);
         limits_.memory = std::uint64_t{512} << 20U;
     }
     ~IsolationTest() override { std::filesystem::remove_all(folder_); }

@@ -57,13 +57,13 @@ std::string probeSandbox(const std::filesystem::path& outside) {
     io_uring_params parameters{};
     forbidden("io_uring", ::syscall(SYS_io_uring_setup, 1, &parameters) >= 0);
 
+    forbidden("touch outside", ::utimensat(AT_FDCWD, existing.c_str(), nullptr, 0) == 0);
+    forbidden("chmod outside", ::chmod(existing.c_str(), 0600) == 0);
     forbidden("create outside", std::ofstream(outside / "created").is_open());
     forbidden("overwrite outside", std::ofstream(existing).is_open());
     forbidden("truncate outside", ::truncate(existing.c_str(), 0) == 0);
-    forbidden("remove outside", ::unlink(existing.c_str()) == 0);
     forbidden("rename outside", ::rename(existing.c_str(), (outside / "renamed").c_str()) == 0);
-    forbidden("chmod outside", ::chmod(existing.c_str(), 0) == 0);
-    forbidden("touch outside", ::utimensat(AT_FDCWD, existing.c_str(), nullptr, 0) == 0);
+    forbidden("remove outside", ::unlink(existing.c_str()) == 0);
     forbidden("folder outside", ::mkdir((outside / "folder").c_str(), 0700) == 0);
 
     rlimit core{};

@@ -7,7 +7,8 @@
 
 namespace tamble {
 
-/// Which files a scan takes.
+/// Which files a scan takes: an answer to the type alone, kept for the next file of the type. Called from one
+/// thread at a time, which is not the caller's.
 using ContentPredicate = std::function<bool(const std::optional<ContentType>&)>;
 
 struct ScanOptions {

@@ -59,8 +59,8 @@ void FolderScanner::Builder::visitLooseFile(const std::filesystem::path& url, st
     }
     const auto folder = url.parent_path();
     if (!takenFrom(folder).insert(precomposed(url.filename().native())).second) return;
-    result_.files.push_back(
-        {.url = url, .root = folder, .byteSize = byteSize, .contentType = type, .isLoose = true});
+    files_.add(
+        InputFile{.url = url, .root = folder, .byteSize = byteSize, .contentType = type, .isLoose = true});
     result_.totalBytes += byteSize;
     ++result_.looseFileCount;
 }
@@ -69,12 +69,15 @@ void FolderScanner::Builder::walk(int parent, const char* name, FolderNode& node
                                   const std::filesystem::path& root) {
     std::error_code error;
     const FileDescriptor folder = openFolder(parent, name, error);
-    const auto listing = folder ? DirectoryListing::read(folder, error) : std::nullopt;
-    if (!listing) {
+    auto read = folder ? DirectoryListing::read(folder, error) : std::nullopt;
+    if (!read) {
         ++result_.unreadableCount;
         intakeLog.error("Can't read folder {}: {}", privately(node.url), error.message());
         return;
     }
+    const auto listing = std::make_shared<const DirectoryListing>(std::move(*read));
+    FoundFiles found{
+        .folder = node.url, .root = root, .relativeFolder = node.relativePath, .listing = listing};
     std::vector<std::string_view> subfolders;
     Names* const taken = mayRepeat(node, *listing) ? &takenFrom(node.url) : nullptr;
     for (const std::size_t index : order_.sorted(listing->names())) {
@@ -97,12 +100,14 @@ void FolderScanner::Builder::walk(int parent, const char* name, FolderNode& node
                 break;
             case ItemKind::regularFile:
                 ++itemsMet_;
-                takeFile(folder.number(), item, node, root, taken);
+                takeFile(folder.number(), item, found, taken);
                 break;
             case ItemKind::other:
                 break;
         }
     }
+    node.fileCount = static_cast<int>(found.files.size());
+    if (!found.files.empty()) files_.add(std::move(found));
     if (node.depth >= options_.maxDepth) {
         if (!subfolders.empty()) intakeLog.notice("Stopped at max depth in {}", privately(node.url));
         return;
@@ -121,10 +126,9 @@ void FolderScanner::Builder::walkSubfolder(int parent, const char* name, FolderN
     if (node.fileCount > 0 || !node.children.empty()) parentNode.children.push_back(std::move(node));
 }
 
-void FolderScanner::Builder::takeFile(int parent, std::string_view name, FolderNode& node,
-                                      const std::filesystem::path& root, Names* taken) {
-    const Verdict& found = verdict(parent, name);
-    if (!found.isAccepted) {
+void FolderScanner::Builder::takeFile(int parent, std::string_view name, FoundFiles& found, Names* taken) {
+    const auto [type, isAccepted] = verdict(parent, name);
+    if (!isAccepted) {
         ++result_.otherFileCount;
         return;
     }
@@ -134,19 +138,8 @@ void FolderScanner::Builder::takeFile(int parent, std::string_view name, FolderN
         return;
     }
     if (taken != nullptr && !taken->insert(precomposed(name)).second) return;
-    // Joined as text: a path takes every component apart, and so does it once instead of twice.
-    std::string url;
-    url.reserve(node.url.native().size() + 1 + name.size());
-    url += node.url.native();
-    if (url.back() != '/') url += '/';
-    url += name;
-    result_.files.push_back({.url = std::move(url),
-                             .root = root,
-                             .relativeFolder = node.relativePath,
-                             .byteSize = properties.byteSize,
-                             .contentType = found.type});
+    found.files.push_back({.name = name, .byteSize = properties.byteSize, .contentType = type});
     result_.totalBytes += properties.byteSize;
-    ++node.fileCount;
 }
 
 bool FolderScanner::Builder::mayRepeat(const FolderNode& node, const DirectoryListing& listing) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <TambleCore/Intake/FolderScanner.h>
+#include <TambleCore/Intake/InputFileMaker.h>
 #include <TambleCore/Platform/DirectoryListing.h>
 #include <TambleCore/Platform/FinderOrder.h>
 
@@ -14,10 +15,12 @@ namespace tamble {
 /// The walk of one scan and what it has gathered so far.
 class FolderScanner::Builder {
   public:
-    /// `dropCount` items will be visited.
-    Builder(const ScanOptions& options, std::size_t dropCount) : options_(options), dropCount_(dropCount) {}
+    /// `dropCount` items will be visited; their files go to `files`.
+    Builder(const ScanOptions& options, std::size_t dropCount, InputFileMaker& files)
+        : options_(options), dropCount_(dropCount), files_(files) {}
 
     void visit(const std::filesystem::path& url);
+    /// All that was gathered but the files.
     ScanResult result() && { return std::move(result_); }
 
   private:
@@ -41,8 +44,9 @@ class FolderScanner::Builder {
     void walk(int parent, const char* name, FolderNode& node, const std::filesystem::path& root);
     void walkSubfolder(int parent, const char* name, FolderNode& parentNode,
                        const std::filesystem::path& root);
-    void takeFile(int parent, std::string_view name, FolderNode& node, const std::filesystem::path& root,
-                  Names* taken);
+    /// Adds the file to `found` if it is wanted and new; `taken` may be null where no file can repeat
+    /// another.
+    void takeFile(int parent, std::string_view name, FoundFiles& found, Names* taken);
 
     /// By the extension of the name; the file is looked into when there is none.
     Verdict verdict(int parent, std::string_view name);
@@ -54,6 +58,7 @@ class FolderScanner::Builder {
 
     const ScanOptions& options_;
     std::size_t dropCount_;
+    InputFileMaker& files_;
     ScanResult result_;
     FinderOrder order_;
     MapByText<Verdict> verdicts_;

@@ -2,6 +2,7 @@
 #include <TambleCore/Jobs/OutputAttributes.h>
 #include <TambleCore/Platform/SystemError.h>
 #include <TambleCore/Support/Failure.h>
+#include <TambleCore/Support/Log.h>
 
 #include <algorithm>
 #include <atomic>
@@ -10,6 +11,8 @@
 
 namespace tamble {
 namespace {
+
+constexpr Log engineLog("engine");
 
 outcome::Failed failed(std::string code, std::string detail) {
     return {{.stage = ItemFailure::Stage::processing, .code = std::move(code), .detail = std::move(detail)}};
@@ -35,6 +38,7 @@ StageOutcome outcomeOf(const Work& work, const std::stop_token& stop) {
         if (stop.stop_requested()) return outcome::Cancelled{};
         return unexpected("it was cancelled by itself.");
     } catch (const Failure& failure) {
+        if (!failure.detail().empty()) engineLog.error("Item failed: {} ({})", failure.code(), failure.detail());
         return failed(failure.code(), failure.sentence());
     } catch (const std::exception& error) {
         return unexpected(causeOf(error));

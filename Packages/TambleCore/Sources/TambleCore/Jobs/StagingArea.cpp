@@ -7,6 +7,7 @@
 #include <cerrno>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace tamble {
 namespace {
@@ -44,9 +45,9 @@ void StagingArea::discard(std::size_t index) {
         own = itemFolder(*item->second.folder, index);
         items_.erase(item);
     }
-    // What is still there goes with the staging folder.
+    // Empty, as a rule. What cannot be removed now goes with the staging folder.
     std::error_code ignored;
-    std::filesystem::remove_all(own, ignored);
+    if (::rmdir(own.c_str()) != 0) std::filesystem::remove_all(own, ignored);
 }
 
 void StagingArea::removeAll() {

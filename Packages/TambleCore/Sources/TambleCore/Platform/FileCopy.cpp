@@ -67,7 +67,8 @@ void copyBytes(int source, int target, std::int64_t total, const std::filesystem
         if (count < 0 && !meansNoSharing(errno)) throwLastError("cannot copy", from, to);
         break;
     }
-    // Also after a clean end: some file systems answer 0 for files whose size they do not tell.
+    // Also after a clean end, for file systems that do not tell how much a file holds.
+    if (done > 0 && done >= total) return;
     std::vector<char> buffer(std::size_t{1} << 18U);
     for (;;) {
         const ssize_t count = ::read(source, buffer.data(), buffer.size());

@@ -21,10 +21,11 @@ void SystemFileOperations::move(const std::filesystem::path& from, const std::fi
 }
 
 void SystemFileOperations::remove(const std::filesystem::path& item) {
-    if (std::filesystem::remove_all(standardized(item)) == 0) {
-        errno = ENOENT;
-        throwLastError("cannot remove", item);
-    }
+    const std::filesystem::path place = standardized(item);
+    if (::unlink(place.c_str()) == 0) return;
+    // What a folder answers: EISDIR here, EPERM by POSIX.
+    if (errno != EISDIR && errno != EPERM) throwLastError("cannot remove", place);
+    std::filesystem::remove_all(place);
 }
 
 void SystemFileOperations::createDirectory(const std::filesystem::path& folder) {

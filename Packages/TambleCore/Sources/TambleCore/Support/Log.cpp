@@ -6,7 +6,7 @@
 
 #include <spdlog/logger.h>
 #include <spdlog/sinks/stdout_sinks.h>
-#include <spdlog/sinks/systemd_sink.h>
+#include <spdlog/sinks/syslog_sink.h>
 
 namespace tamble {
 namespace {
@@ -22,7 +22,8 @@ spdlog::logger& sharedLogger() {
         if (isSet("TAMBLE_LOG")) {
             sink = std::make_shared<spdlog::sinks::stderr_sink_mt>();
         } else {
-            sink = std::make_shared<spdlog::sinks::systemd_sink_mt>("tamble");
+            // The journal listens here too, and needs no library that would slow every start.
+            sink = std::make_shared<spdlog::sinks::syslog_sink_mt>("tamble", 0, LOG_USER, false);
         }
         auto made = std::make_shared<spdlog::logger>("tamble", std::move(sink));
         // A machine without a journal is no reason to disturb anyone.

@@ -1,11 +1,12 @@
 #include <TambleCore/Support/NameFitting.h>
 #include <TambleCore/Support/Text.h>
 
-#include <algorithm>
+#include <cstdint>
 #include <memory>
 
 #include <unicode/brkiter.h>
 #include <unicode/utext.h>
+#include <unicode/utf8.h>
 
 namespace tamble {
 namespace {
@@ -26,7 +27,9 @@ std::string_view cut(std::string_view text, std::size_t limit) {
     if (U_FAILURE(status)) return text.substr(0, limit);
     characters->setText(opened.get(), status);
     if (U_FAILURE(status)) return text.substr(0, limit);
-    const auto end = static_cast<std::int32_t>(limit);
+    // The iterator steps back from the beginning of a code point only.
+    auto end = static_cast<std::int32_t>(limit);
+    U8_SET_CP_START(reinterpret_cast<const std::uint8_t*>(text.data()), 0, end);
     const std::int32_t boundary = characters->isBoundary(end) ? end : characters->preceding(end);
     // One "character" of more than the limit: a heap of combining marks.
     if (boundary <= 0) return text.substr(0, limit);

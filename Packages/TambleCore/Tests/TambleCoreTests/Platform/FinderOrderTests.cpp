@@ -40,7 +40,7 @@ TEST(FinderOrder, plainNamesStandAsTheWholeCollationPutsThem) {
     // Few characters, so that names share beginnings, cases and numbers; then all that a name may hold.
     std::string all;
     for (char c = 1; c != 127; ++c) all += c;
-    for (const std::string alphabet : {std::string("aAbB0019 ._-"), all}) {
+    for (const auto& alphabet : {std::string("aAbB0019 ._-"), all}) {
         std::vector<std::string> names(500);
         for (auto& name : names) {
             for (auto length = random() % 9; length > 0; --length)

@@ -131,6 +131,7 @@ Bytes Conversion::result() const {
     }
     context.throwIfStopped();
     checkNothingIsLeft(bytes, format, metadataRemoval(settings));
+    context.report(1);
     return bytes;
 }
 

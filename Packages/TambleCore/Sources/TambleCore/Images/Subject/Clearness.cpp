@@ -1,10 +1,10 @@
 #include "Clearness.h"
 
-#include <opencv2/imgproc.hpp>
-
 #include <algorithm>
 #include <array>
 #include <vector>
+
+#include <opencv2/imgproc.hpp>
 
 namespace tamble {
 namespace {
@@ -13,10 +13,13 @@ cv::Mat disc(int radius) {
     return cv::getStructuringElement(cv::MORPH_ELLIPSE, {2 * radius + 1, 2 * radius + 1});
 }
 
-double borderTouched(const cv::Mat& mask) {
-    const int touched = cv::countNonZero(mask.row(0)) + cv::countNonZero(mask.row(mask.rows - 1)) +
-                        cv::countNonZero(mask.col(0)) + cv::countNonZero(mask.col(mask.cols - 1));
-    return static_cast<double>(touched) / (2 * (mask.rows + mask.cols));
+/// The share of each side of the picture that is inside: left, right, top, bottom.
+std::array<double, 4> sidesTouched(const cv::Mat& mask) {
+    const auto share = [](const cv::Mat& side) {
+        return static_cast<double>(cv::countNonZero(side)) / static_cast<double>(side.total());
+    };
+    return {share(mask.col(0)), share(mask.col(mask.cols - 1)), share(mask.row(0)),
+            share(mask.row(mask.rows - 1))};
 }
 
 cv::Mat colourHistogram(const cv::Mat& lab, const cv::Mat& where) {
@@ -76,9 +79,12 @@ double solidity(const cv::Mat& mask) {
 Clearness measure(const cv::Mat& lab, const cv::Mat& saliency, const cv::Mat& mask) {
     const int inside = cv::countNonZero(mask);
     if (inside == 0 || inside == mask.rows * mask.cols) return {};
+    const auto [left, right, top, bottom] = sidesTouched(mask);
     return {
         .area = static_cast<double>(inside) / (mask.rows * mask.cols),
-        .borderTouched = borderTouched(mask),
+        .borderTouched =
+            ((left + right) * mask.rows + (top + bottom) * mask.cols) / (2 * (mask.rows + mask.cols)),
+        .spans = std::max(std::min(left, right), std::min(top, bottom)),
         .standsOut = cv::mean(saliency, mask)[0] - cv::mean(saliency, ~mask)[0],
         .colourSeparation = colourSeparation(lab, mask),
         .outlineStrength = outlineStrength(lab, mask),
@@ -87,8 +93,16 @@ Clearness measure(const cv::Mat& lab, const cv::Mat& saliency, const cv::Mat& ma
 }
 
 bool isClearSubject(const Clearness& clearness) {
-    return clearness.area >= 0.004 && clearness.area <= 0.8 && clearness.borderTouched <= 0.35 &&
-           clearness.standsOut >= 0.25 && clearness.colourSeparation >= 0.6 && clearness.outlineStrength >= 2;
+    const bool sensible = clearness.area >= 0.004 && clearness.area <= 0.8 &&
+                          clearness.borderTouched <= 0.35 && clearness.spans <= 0.15 &&
+                          clearness.solidity >= 0.25;
+    // Each has a least value below which nothing makes up for it, and a middling one that counts as 1.
+    const bool setApart = clearness.standsOut >= 0.25 && clearness.colourSeparation >= 0.6 &&
+                          clearness.outlineStrength >= 2 &&
+                          clearness.standsOut / 0.3 * (clearness.colourSeparation / 0.75) *
+                                  (std::min(clearness.outlineStrength, 6.0) / 3) >=
+                              1;
+    return sensible && setApart;
 }
 
 }  // namespace tamble

@@ -5,7 +5,6 @@
 #include "PictureView.h"
 #include "Saliency.h"
 #include "Segmentation.h"
-
 #include <opencv2/imgproc.hpp>
 
 namespace tamble {

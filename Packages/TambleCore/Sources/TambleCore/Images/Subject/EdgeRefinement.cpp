@@ -1,18 +1,18 @@
 #include "EdgeRefinement.h"
 
-#include "PictureView.h"
-
-#include <opencv2/imgproc.hpp>
-
 #include <algorithm>
 #include <array>
+
+#include "PictureView.h"
+#include <opencv2/imgproc.hpp>
 
 namespace tamble {
 namespace {
 
 /// The longest side of the picture on which the coefficients are found.
 constexpr int guideSide = 1024;
-/// Variance of a colour (0…1) that counts as an edge: 2.5 levels of 255 squared, as flat as a clean photo's noise.
+/// Variance of a colour (0…1) that counts as an edge: 2.5 levels of 255 squared, as flat as a clean photo's
+/// noise.
 constexpr double flatness = 1e-4;
 /// How far, in pixels of the small mask, its outline may be wrong.
 constexpr int outlineDoubt = 3;
@@ -23,11 +23,13 @@ cv::Mat boxMean(const cv::Mat& map, int radius) {
     return mean;
 }
 
-cv::Mat covariance(const cv::Mat& a, const cv::Mat& b, const cv::Mat& meanA, const cv::Mat& meanB, int radius) {
+cv::Mat covariance(const cv::Mat& a, const cv::Mat& b, const cv::Mat& meanA, const cv::Mat& meanB,
+                   int radius) {
     return boxMean(a.mul(b), radius) - meanA.mul(meanB);
 }
 
-/// a (three) and b of the linear model mask = a · colour + b around each pixel, averaged over all windows it is in.
+/// a (three) and b of the linear model mask = a · colour + b around each pixel, averaged over all windows it
+/// is in.
 std::array<cv::Mat, 4> guidedCoefficients(const cv::Mat& guide, const cv::Mat& mask, int radius,
                                           const WorkContext& context) {
     std::array<cv::Mat, 3> colour;
@@ -53,12 +55,13 @@ std::array<cv::Mat, 4> guidedCoefficients(const cv::Mat& guide, const cv::Mat& m
             const double s01 = at(own[1]);
             const double s02 = at(own[2]);
             const double s12 = at(own[4]);
-            const cv::Matx33d spread(at(own[0]) + flatness, s01, s02, s01, at(own[3]) + flatness, s12, s02, s12,
-                                     at(own[5]) + flatness);
-            const cv::Vec3d slope = spread.solve(cv::Vec3d(at(toMask[0]), at(toMask[1]), at(toMask[2])),
-                                                 cv::DECOMP_CHOLESKY);
+            const cv::Matx33d spread(at(own[0]) + flatness, s01, s02, s01, at(own[3]) + flatness, s12, s02,
+                                     s12, at(own[5]) + flatness);
+            const cv::Vec3d slope =
+                spread.solve(cv::Vec3d(at(toMask[0]), at(toMask[1]), at(toMask[2])), cv::DECOMP_CHOLESKY);
             const double offset = at(meanMask) - slope.dot({at(mean[0]), at(mean[1]), at(mean[2])});
-            for (int i = 0; i < 3; ++i) result[static_cast<std::size_t>(i)].at<float>(y, x) = static_cast<float>(slope[i]);
+            for (int i = 0; i < 3; ++i)
+                result[static_cast<std::size_t>(i)].at<float>(y, x) = static_cast<float>(slope[i]);
             result[3].at<float>(y, x) = static_cast<float>(offset);
         }
     }
@@ -71,7 +74,8 @@ float steeper(float value) {
     return std::clamp((value - 0.5F) * 1.4F + 0.5F, 0.0F, 1.0F);
 }
 
-/// Six numbers a pixel of the guide: the model's four, and the least and greatest value the mask may have there.
+/// Six numbers a pixel of the guide: the model's four, and the least and greatest value the mask may have
+/// there.
 using Model = cv::Vec<float, 6>;
 
 cv::Mat modelOf(const cv::Mat& guide, const cv::Mat& mask, const WorkContext& context) {
@@ -115,7 +119,8 @@ Between between(int position, int fullLength, int reducedLength) {
 
 }  // namespace
 
-std::vector<std::uint8_t> refineEdges(const SubjectPicture& picture, const cv::Mat& mask, const WorkContext& context) {
+std::vector<std::uint8_t> refineEdges(const SubjectPicture& picture, const cv::Mat& mask,
+                                      const WorkContext& context) {
     cv::Mat guide;
     reducedView(picture, guideSide).convertTo(guide, CV_32F, 1.0 / 255);
     const cv::Mat model = modelOf(guide, mask, context);
@@ -123,7 +128,8 @@ std::vector<std::uint8_t> refineEdges(const SubjectPicture& picture, const cv::M
     std::vector<Between> columns;
     for (int x = 0; x < picture.width; ++x) columns.push_back(between(x, picture.width, model.cols));
     std::vector<Model> row(static_cast<std::size_t>(model.cols));
-    std::vector<std::uint8_t> result(static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height));
+    std::vector<std::uint8_t> result(static_cast<std::size_t>(picture.width) *
+                                     static_cast<std::size_t>(picture.height));
     const std::uint8_t* colour = picture.pixels.data();
     std::uint8_t* out = result.data();
     for (int y = 0; y < picture.height; ++y) {

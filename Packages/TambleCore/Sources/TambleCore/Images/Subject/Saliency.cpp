@@ -1,16 +1,17 @@
 #include "Saliency.h"
 
-#include <opencv2/imgproc.hpp>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
 
+#include <opencv2/imgproc.hpp>
+
 namespace tamble {
 namespace {
 
-/// The state of one raster scan: the distance so far, and the highest and lowest value on the path it was found by.
+/// The state of one raster scan: the distance so far, and the highest and lowest value on the path it was
+/// found by.
 struct Barrier {
     cv::Mat distance;
     cv::Mat high;
@@ -28,7 +29,8 @@ void relax(const cv::Mat& values, Barrier& barrier, cv::Point at, cv::Point from
 }
 
 cv::Mat barrierDistance(const cv::Mat& values, const WorkContext& context) {
-    Barrier barrier{cv::Mat(values.size(), CV_32F, std::numeric_limits<float>::max()), values.clone(), values.clone()};
+    Barrier barrier{cv::Mat(values.size(), CV_32F, std::numeric_limits<float>::max()), values.clone(),
+                    values.clone()};
     cv::rectangle(barrier.distance, {0, 0, values.cols, values.rows}, 0.0F);
     // Two rounds there and back reach nearly every winding path; more change little.
     for (int round = 0; round < 2; ++round) {
@@ -54,8 +56,10 @@ cv::Mat strangeness(const cv::Mat& lab, cv::Rect strip) {
     const cv::Mat samples = lab(strip).clone().reshape(1, strip.area());
     cv::Mat covariance;
     cv::Mat mean;
-    cv::calcCovarMatrix(samples, covariance, mean, cv::COVAR_NORMAL | cv::COVAR_ROWS | cv::COVAR_SCALE, CV_32F);
-    // Noise of a few levels in every channel keeps a strip of one colour from making all others infinitely far.
+    cv::calcCovarMatrix(samples, covariance, mean, cv::COVAR_NORMAL | cv::COVAR_ROWS | cv::COVAR_SCALE,
+                        CV_32F);
+    // Noise of a few levels in every channel keeps a strip of one colour from making all others infinitely
+    // far.
     covariance += cv::Mat::eye(3, 3, CV_32F) * 20.0;
     const cv::Matx33f inverse(cv::Mat(covariance.inv(cv::DECOMP_CHOLESKY)).ptr<float>());
     const cv::Vec3f centre(mean.ptr<float>());

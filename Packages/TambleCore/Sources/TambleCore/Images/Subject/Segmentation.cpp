@@ -1,15 +1,15 @@
 #include "Segmentation.h"
 
-#include <opencv2/imgproc.hpp>
-
 #include <algorithm>
 #include <vector>
+
+#include <opencv2/imgproc.hpp>
 
 namespace tamble {
 namespace {
 
-/// GrabCut draws its first colour clusters with the random numbers of the thread: they start from the same place for
-/// every picture, and whoever else uses them goes on undisturbed.
+/// GrabCut draws its first colour clusters with the random numbers of the thread: they start from the same
+/// place for every picture, and whoever else uses them goes on undisturbed.
 class FixedRandomNumbers {
   public:
     FixedRandomNumbers() : before_(cv::theRNG()) { cv::theRNG() = cv::RNG(1); }
@@ -28,11 +28,12 @@ double bestThreshold(const cv::Mat& map) {
     return cv::threshold(bytes, bytes, 0, 255, cv::THRESH_BINARY | cv::THRESH_OTSU) / 255;
 }
 
-/// What GrabCut starts from: the surely foreign as subject, the surely common as background, the rest to be found out.
+/// What GrabCut starts from: the surely foreign as subject, the surely common as background, the rest to be
+/// found out.
 cv::Mat firstGuess(const cv::Mat& saliency) {
     const double middle = bestThreshold(saliency);
     cv::Mat labels(saliency.size(), CV_8U, cv::Scalar(cv::GC_PR_BGD));
-    labels.setTo(cv::GC_BGD, saliency < middle * 0.4);
+    labels.setTo(cv::GC_BGD, saliency < middle * 0.25);
     labels.setTo(cv::GC_PR_FGD, saliency >= middle);
     labels.setTo(cv::GC_FGD, saliency >= middle + 0.6 * (1 - middle));
     return labels;
@@ -59,7 +60,8 @@ cv::Mat largePieces(const cv::Mat& mask) {
     return kept;
 }
 
-/// Background that the subject encloses becomes subject when it is small; a large hole, such as a handle's, stays.
+/// Background that the subject encloses becomes subject when it is small; a large hole, such as a handle's,
+/// stays.
 void fillSmallHoles(cv::Mat& mask) {
     cv::Mat labels;
     cv::Mat statistics;

@@ -18,15 +18,18 @@ using testing::Not;
 Bytes codedData(ByteView file, ImageFormat format) {
     Bytes result;
     if (format == ImageFormat::jpeg) {
-        for (const auto& segment : jpeg::layout(file)->segments) {
+        const auto layout = jpeg::layout(file);
+        for (const auto& segment : layout->segments) {
             if (segment.kind == jpeg::Kind::coding) append(result, segment.whole);
         }
     } else if (format == ImageFormat::png) {
-        for (const auto& chunk : png::layout(file)->chunks) {
+        const auto layout = png::layout(file);
+        for (const auto& chunk : layout->chunks) {
             if (chunk.type == "IDAT") append(result, chunk.data);
         }
     } else if (format == ImageFormat::webp) {
-        for (const auto& chunk : webp::layout(file)->chunks) {
+        const auto layout = webp::layout(file);
+        for (const auto& chunk : layout->chunks) {
             if (chunk.type == "VP8L" || chunk.type == "VP8 ") append(result, chunk.data);
         }
     } else {
@@ -86,22 +89,34 @@ TEST_P(LosslessClean, TakesTheLocationAndKeepsTheRest) {
 }
 
 TEST_P(LosslessClean, HidesEverythingAndStaysUpright) {
+    const ImageFormat format = GetParam().format;
+    const Bytes photos[]{bytesOf(photo(1, false)), bytesOf(photo(1, true))};
+    std::vector<std::filesystem::path> turned;
     for (int orientation = 1; orientation <= 8; ++orientation) {
-        const Bytes source = bytesOf(photo(orientation, orientation % 2 == 0));
-        EXPECT_THAT(remainingTraces(source, GetParam().format, MetadataRemoval::everything), Not(IsEmpty()));
+        turned.push_back(folder_.file("source" + std::to_string(orientation), photos[orientation % 2]));
+    }
+    std::vector<std::string> words{"-q", "-overwrite_original", "-Orientation#<${filename;s/source//}"};
+    words.insert(words.end(), turned.begin(), turned.end());
+    EXPECT_THAT(exifTool(words), Not(HasSubstr("Error")));
 
-        const auto cleaned = losslesslyCleaned(source, GetParam().format, MetadataRemoval::everything);
+    std::vector<std::filesystem::path> files;
+    for (const auto& file : turned) {
+        const Bytes source = bytesOf(file);
+        EXPECT_THAT(remainingTraces(source, format, MetadataRemoval::everything), Not(IsEmpty()));
+        const auto cleaned = losslesslyCleaned(source, format, MetadataRemoval::everything);
         ASSERT_TRUE(cleaned);
-        EXPECT_EQ(codedData(*cleaned, GetParam().format), codedData(source, GetParam().format));
-        EXPECT_THAT(remainingTraces(*cleaned, GetParam().format, MetadataRemoval::everything), IsEmpty());
-        EXPECT_EQ(fieldsOf(shown(*cleaned).autorot()), fieldsOf(shown(source).autorot())) << orientation;
-        const std::string tags = tagsOf(folder_.file("cleaned", *cleaned));
-        EXPECT_EQ(tags.find("Orientation") != std::string::npos,
-                  orientation != 1 || GetParam().format == ImageFormat::tiff)
-            << tags;
+        EXPECT_EQ(codedData(*cleaned, format), codedData(source, format));
+        EXPECT_THAT(remainingTraces(*cleaned, format, MetadataRemoval::everything), IsEmpty());
+        EXPECT_EQ(fieldsOf(shown(*cleaned).autorot()), fieldsOf(shown(source).autorot()));
+        files.push_back(folder_.file("cleaned" + std::to_string(files.size()), *cleaned));
+    }
+    const std::vector<std::string> tags = tagsOf(files);
+    for (std::size_t i = 0; i < tags.size(); ++i) {
+        const bool hasOrientation = tags[i].find("Orientation") != std::string::npos;
+        EXPECT_EQ(hasOrientation, i != 0 || format == ImageFormat::tiff) << tags[i];
         for (const char* gone :
              {"Kameramann", "2020:", "seaside", "remark", "GPS", "XMP", "IPTC", "Thumbnail", "Warning"}) {
-            EXPECT_THAT(tags, Not(HasSubstr(gone)));
+            EXPECT_THAT(tags[i], Not(HasSubstr(gone)));
         }
     }
 }
@@ -144,7 +159,7 @@ TEST_P(LosslessClean, BearsDamagedFiles) {
     for (std::size_t size = 0; size < source.size(); size += 1 + size / 64)
         check(ByteView(source).first(size));
     std::mt19937 random(7);
-    for (int round = 0; round < 2000; ++round) {
+    for (int round = 0; round < 600; ++round) {
         Bytes damaged = source;
         for (int i = 0; i < 4; ++i) damaged[random() % damaged.size()] = static_cast<std::byte>(random());
         check(damaged);

@@ -1,4 +1,5 @@
 #include <TambleCore/Images/Lossless/LosslessEdit.h>
+#include <TambleCore/Images/Metadata/Containers/ByteAccess.h>
 
 #include "../Metadata/ExifTool.h"
 

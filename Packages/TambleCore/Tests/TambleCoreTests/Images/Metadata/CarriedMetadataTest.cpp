@@ -6,6 +6,7 @@
 namespace tamble::test {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
@@ -34,27 +35,31 @@ TEST_P(CarriedMetadata, ReachesEveryContainer) {
          {MetadataRemoval::nothing, MetadataRemoval::location, MetadataRemoval::everything}) {
         const MetadataBlocks carried =
             carriedOver(blocks(removal == MetadataRemoval::location), removal, 70'000, 20);
+        std::vector<Bytes> results;
+        std::vector<std::filesystem::path> files;
         for (const FormatCase& target : losslessFormats) {
             const Bytes bare = bytesOf(folder_.picture("bare" + target.name, fourFields(30, 20)));
-            const Bytes result = withMetadata(bare, target.format, carried);
-            EXPECT_EQ(largestDifference(shown(result).autorot(), shown(bare)), 0);
-            const std::string tags = tagsOf(folder_.file("result", result));
-            EXPECT_THAT(tags, Not(HasSubstr("Warning")));
+            results.push_back(withMetadata(bare, target.format, carried));
+            EXPECT_EQ(largestDifference(shown(results.back()).autorot(), shown(bare)), 0);
+            files.push_back(folder_.file("result" + std::to_string(files.size()), results.back()));
+        }
+        const std::vector<std::string> allTags = tagsOf(files);
+        for (std::size_t i = 0; i < files.size(); ++i) {
+            SCOPED_TRACE(losslessFormats[i].name);
+            const std::string& tags = allTags[i];
+            EXPECT_THAT(tags, AllOf(Not(HasSubstr("Warning")), Not(HasSubstr("Rotate"))));
             if (removal == MetadataRemoval::everything) {
                 EXPECT_THAT(tags, Not(HasSubstr("Kameramann")));
                 continue;
             }
             for (const char* kept : {"Kameramann", "2020:01:02", "seaside", "remark", "70000"}) {
-                EXPECT_THAT(tags, HasSubstr(kept)) << target.name;
+                EXPECT_THAT(tags, HasSubstr(kept));
             }
-            EXPECT_THAT(tags, Not(HasSubstr("Rotate")));
             if (removal == MetadataRemoval::nothing) {
-                EXPECT_THAT(tags, HasSubstr("GPSLongitude"));
-                EXPECT_THAT(tags, HasSubstr("Placeville"));
+                EXPECT_THAT(tags, AllOf(HasSubstr("GPSLongitude"), HasSubstr("Placeville")));
             } else {
-                for (const std::string& word : placeWords())
-                    EXPECT_THAT(tags, Not(HasSubstr(word))) << target.name;
-                EXPECT_THAT(remainingTraces(result, target.format, removal), IsEmpty());
+                for (const std::string& word : placeWords()) EXPECT_THAT(tags, Not(HasSubstr(word)));
+                EXPECT_THAT(remainingTraces(results[i], losslessFormats[i].format, removal), IsEmpty());
             }
         }
     }
@@ -87,7 +92,7 @@ TEST(RemainingTraces, AreFoundInTheFormatsThatAreOnlyReencoded) {
     if (!hasExifTool()) GTEST_SKIP() << "exiftool is not installed";
     const PictureFolder folder;
     for (const auto& [name, format] :
-         {std::pair("a.heic", ImageFormat::heic), std::pair("a.avif", ImageFormat::avif),
+         {std::pair("a.heic[strip]", ImageFormat::heic), std::pair("a.avif[strip]", ImageFormat::avif),
           std::pair("a.gif", ImageFormat::gif)}) {
         const auto file = folder.picture(name, fourFields(64, 64));
         EXPECT_THAT(remainingTraces(bytesOf(file), format, MetadataRemoval::location), IsEmpty()) << name;

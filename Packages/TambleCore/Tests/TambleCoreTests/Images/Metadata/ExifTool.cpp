@@ -29,6 +29,22 @@ std::string tagsOf(const std::filesystem::path& file) {
         {"-a", "-G1", "-s", "-ee", "-U", "--System:all", "--ExifTool:all", "--Composite:all", file});
 }
 
+std::vector<std::string> tagsOf(const std::vector<std::filesystem::path>& files) {
+    constexpr std::string_view heading = "======== ";
+    std::vector<std::string> words{
+        "-a", "-G1", "-s", "-ee", "-U", "--System:all", "--ExifTool:all", "--Composite:all"};
+    words.insert(words.end(), files.begin(), files.end());
+    const std::string text = exifTool(words);
+    std::vector<std::string> result;
+    for (std::size_t at = text.find(heading); at != std::string::npos;) {
+        const std::size_t next = text.find(heading, at + heading.size());
+        result.push_back(text.substr(at, next == std::string::npos ? next : next - at));
+        at = next;
+    }
+    result.resize(files.size());
+    return result;
+}
+
 std::vector<std::string> photographTags() {
     return {"-q",
             "-overwrite_original",
@@ -55,7 +71,7 @@ std::vector<std::string> photographTags() {
 }
 
 std::vector<std::string> placeWords() {
-    return {"GPS", "48", "Place", "City", "Country", "Location"};
+    return {"GPS", "48.8", "48 deg", "Place", "City", "Country", "Location"};
 }
 
 Bytes bytesOf(const std::filesystem::path& file) {

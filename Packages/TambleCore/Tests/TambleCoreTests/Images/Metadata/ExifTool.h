@@ -15,6 +15,8 @@ std::string exifTool(const std::vector<std::string>& words);
 /// All that it reads from the file, one "[group] tag: value" a line, duplicates and embedded documents
 /// included.
 std::string tagsOf(const std::filesystem::path& file);
+/// The same of two or more files in one run, which is far quicker.
+std::vector<std::string> tagsOf(const std::vector<std::filesystem::path>& files);
 
 /// The words that give a file camera, date, keywords and a place in every vocabulary.
 std::vector<std::string> photographTags();
