@@ -89,8 +89,12 @@ std::optional<std::chrono::system_clock::time_point> timeOfISODate(std::string_v
 }
 
 std::string undoSentence(const UndoReport& report) {
-    std::string text =
-        fmt::format("{} new files removed, {} files put back.", report.removedOutputs, report.restoredItems);
+    const std::string removed = fmt::format("{} new files removed", report.removedOutputs);
+    const std::string restored = fmt::format("{} files put back.", report.restoredItems);
+    // What did not happen is left out, but something is always said.
+    std::string text = report.restoredItems == 0    ? removed + "."
+                       : report.removedOutputs == 0 ? restored
+                                                    : removed + ", " + restored;
     if (report.problems > 0) {
         text +=
             fmt::format(" {} items couldn't be put back (the Bin may have been emptied).", report.problems);

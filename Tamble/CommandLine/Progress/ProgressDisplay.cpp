@@ -6,6 +6,8 @@ namespace {
 constexpr std::string_view eraseLine = "\r\x1b[K";
 /// Before that an estimate of the time jumps about, and a short job should not flash.
 constexpr std::chrono::milliseconds settlingTime{700};
+/// Of the whole job: less says nothing yet about the speed.
+constexpr double settledShare = 0.05;
 /// More often nobody can read it, and small files finish by the thousand.
 constexpr std::chrono::milliseconds redrawTime{40};
 
@@ -46,7 +48,7 @@ std::optional<double> ProgressDisplay::secondsLeft() const {
     const auto& progress = state_.progress;
     const std::chrono::duration<double> elapsed = Clock::now() - start_;
     const double done = progress.completed + progress.partial;
-    if (elapsed < settlingTime || done <= 0) return std::nullopt;
+    if (elapsed < settlingTime || done < settledShare * progress.total) return std::nullopt;
     return elapsed.count() / done * (progress.total - done);
 }
 

@@ -135,7 +135,7 @@ TEST(ActivityTexts, SayWhatPeopleRead) {
     EXPECT_EQ(undoSentence({.removedOutputs = 12, .restoredItems = 3}),
               "12 new files removed, 3 files put back.");
     EXPECT_EQ(undoSentence({.removedOutputs = 1, .problems = 2, .keptBecauseChanged = 4}),
-              "1 new files removed, 0 files put back. 2 items couldn't be put back (the Bin may have been "
+              "1 new files removed. 2 items couldn't be put back (the Bin may have been "
               "emptied). "
               "4 new files were changed after the job, so they were kept.");
     const auto item = [](const char* file, const char* root, bool isLoose) {
