@@ -1,6 +1,5 @@
 #include <TambleCore/Platform/SystemFileOperations.h>
 
-#include <regex>
 #include <set>
 
 #include <TambleCoreTests/Platform/MountedVolume.h>
@@ -31,8 +30,9 @@ TEST_F(Trash, HomeBinHoldsTheItemAndANoteThatDesktopsRead) {
     const std::string note = contentOf(noteBeside(landed));
     const std::string place = std::filesystem::canonical(folder.files()).native();
     EXPECT_THAT(note, testing::StartsWith("[Trash Info]\nPath=" + place + "/Gr%C3%B6%C3%9Fe%20100%25.png\n"));
-    EXPECT_TRUE(
-        std::regex_search(note, std::regex("\nDeletionDate=\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d\n$")));
+    // POSIX extended syntax: std::regex draws false warnings from g++ 12 under the sanitizers.
+    EXPECT_THAT(note, testing::ContainsRegex(
+                          "\nDeletionDate=[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2}\n$"));
     EXPECT_EQ(std::filesystem::status(folder.bin()).permissions(), std::filesystem::perms(0700));
 
     fileOps.move(landed, item);
