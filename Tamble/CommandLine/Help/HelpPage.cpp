@@ -31,7 +31,7 @@ std::string renderedEntry(const HelpEntry& entry, std::size_t column, std::size_
     const auto lines = wrappedLines(entry.text, width > column ? width - column : 1);
     std::string result;
     auto next = lines.begin();
-    if (displayWidth(start) + gap <= column) {
+    if (next != lines.end() && displayWidth(start) + gap <= column) {
         result = padded(start, next->empty() ? 0 : column) + *next++;
     } else {
         result = start;

@@ -33,7 +33,7 @@ Bytes codedData(ByteView file, ImageFormat format) {
             if (chunk.type == "VP8L" || chunk.type == "VP8 ") append(result, chunk.data);
         }
     } else {
-        const auto picture = vips::VImage::tiffload_buffer(vips_blob_new(nullptr, file.data(), file.size()));
+        const auto picture = vips::VImage::new_from_buffer(file.data(), file.size(), "");
         std::size_t size = 0;
         void* pixels = picture.write_to_memory(&size);
         append(result, std::as_bytes(std::span(static_cast<const char*>(pixels), size)));
