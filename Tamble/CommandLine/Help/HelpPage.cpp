@@ -32,7 +32,8 @@ std::string renderedEntry(const HelpEntry& entry, std::size_t column, std::size_
     std::string result;
     auto next = lines.begin();
     if (next != lines.end() && displayWidth(start) + gap <= column) {
-        result = padded(start, next->empty() ? 0 : column) + *next++;
+        result = padded(start, next->empty() ? 0 : column) + *next;
+        ++next;
     } else {
         result = start;
     }
