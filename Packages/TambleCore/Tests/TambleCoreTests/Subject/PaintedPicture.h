@@ -2,6 +2,7 @@
 
 #include <TambleCore/Images/SubjectMask.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>

@@ -1,5 +1,7 @@
 #include "ContrastSubjectMask.h"
 
+#include <algorithm>
+
 #include "Clearness.h"
 #include "EdgeRefinement.h"
 #include "PictureView.h"

@@ -6,7 +6,6 @@
 #include <chrono>
 #include <fstream>
 #include <mutex>
-#include <new>
 #include <stdexcept>
 
 #include "EdgeRefinement.h"
