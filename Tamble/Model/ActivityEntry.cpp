@@ -3,7 +3,9 @@
 #include <TambleCore/Support/Text.h>
 #include <TambleCore/Support/UUID.h>
 
+#include <algorithm>
 #include <charconv>
+#include <utility>
 
 #include <fmt/chrono.h>
 
@@ -15,19 +17,30 @@ std::int64_t sizeOf(const std::filesystem::path& output) {
     return fingerprint ? fingerprint->size : 0;
 }
 
-void addOutput(ActivityEntry& entry, const std::filesystem::path& output) {
-    entry.outputFiles.push_back(output);
-    const auto recorded = entry.undo.createdFingerprints.find(fingerprintKey(output));
-    entry.outputBytes +=
-        recorded == entry.undo.createdFingerprints.end() ? sizeOf(output) : recorded->second.size;
+std::int64_t sizeOf(const UndoRecord& undo, const std::filesystem::path& output) {
+    const auto recorded = undo.createdFingerprints.find(fingerprintKey(output));
+    return recorded == undo.createdFingerprints.end() ? sizeOf(output) : recorded->second.size;
 }
 
-bool areOfOneFolder(std::span<const ItemResult> items) {
-    const InputFile& first = items.front().file;
-    for (const ItemResult& item : items) {
-        if (item.file.isLoose || item.file.root != first.root) return false;
-    }
-    return !first.root.lexically_normal().filename().empty();
+bool areOfOneFolder(std::span<const InputFile> files) {
+    const InputFile& first = files.front();
+    const auto isOfFirstRoot = [&](const InputFile& file) {
+        return !file.isLoose && file.root == first.root;
+    };
+    return std::ranges::all_of(files, isOfFirstRoot) && !first.root.lexically_normal().filename().empty();
+}
+
+ActivityEntry entryOf(const journal::Job& job, UndoRecord undo,
+                      std::chrono::system_clock::time_point finished) {
+    ActivityEntry entry{.id = job.id,
+                        .date = isoDate(finished),
+                        .toolID = job.toolID,
+                        .subject = job.subject,
+                        .inputBytes = job.inputBytes,
+                        .outputFiles = undo.createdFiles};
+    for (const auto& output : undo.createdFiles) entry.outputBytes += sizeOf(undo, output);
+    entry.undo = std::move(undo);
+    return entry;
 }
 
 /// The number of exactly that many digits at the position.
@@ -41,30 +54,41 @@ std::optional<int> numberAt(std::string_view text, std::size_t position, std::si
 
 }  // namespace
 
-ActivityEntry activityEntry(const std::string& toolID, const JobResult& result) {
-    ActivityEntry entry{.id = newUUID(),
-                        .date = isoDate(std::chrono::system_clock::now()),
-                        .toolID = toolID,
-                        .subject = activitySubject(result.items),
-                        .undo = result.undo};
+journal::Job startedJob(std::string toolID, std::span<const InputFile> files) {
+    const std::chrono::duration<double> now = std::chrono::system_clock::now().time_since_epoch();
+    journal::Job job{.id = newUUID(),
+                     .toolID = std::move(toolID),
+                     .subject = activitySubject(files),
+                     .started = now.count()};
+    for (const InputFile& file : files) job.inputBytes += file.byteSize;
+    return job;
+}
+
+std::string activitySubject(std::span<const InputFile> files) {
+    if (files.empty()) return {};
+    const InputFile& first = files.front();
+    if (areOfOneFolder(files)) return printable(first.root.lexically_normal().filename().native());
+    const std::string name = printable(first.url.filename().native());
+    const std::size_t others = files.size() - 1;
+    if (others == 0) return name;
+    return fmt::format("{} and {} {}", name, others, others == 1 ? "other" : "others");
+}
+
+ActivityEntry activityEntry(const journal::Job& job, const JobResult& result) {
+    ActivityEntry entry = entryOf(job, result.undo, std::chrono::system_clock::now());
     for (const ItemResult& item : result.items) {
-        entry.inputBytes += item.file.byteSize;
         entry.doneCount += std::holds_alternative<outcome::Done>(item.outcome) ? 1 : 0;
         entry.skippedCount += std::holds_alternative<outcome::Skipped>(item.outcome) ? 1 : 0;
         entry.failedCount += std::holds_alternative<outcome::Failed>(item.outcome) ? 1 : 0;
     }
-    for (const auto& output : result.undo.createdFiles) addOutput(entry, output);
     return entry;
 }
 
-std::string activitySubject(std::span<const ItemResult> items) {
-    if (items.empty()) return {};
-    const InputFile& first = items.front().file;
-    const std::string name = printable(first.url.filename().native());
-    const std::size_t others = items.size() - 1;
-    if (areOfOneFolder(items)) return printable(first.root.lexically_normal().filename().native());
-    if (others == 0) return name;
-    return fmt::format("{} and {} {}", name, others, others == 1 ? "other" : "others");
+ActivityEntry activityEntry(const journal::Job& job, UndoRecord undo,
+                            std::chrono::system_clock::time_point died) {
+    ActivityEntry entry = entryOf(job, std::move(undo), died);
+    entry.doneCount = static_cast<int>(entry.outputFiles.size());
+    return entry;
 }
 
 std::string isoDate(std::chrono::system_clock::time_point time) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <TambleCore/Jobs/JobResult.h>
+#include <TambleCore/Jobs/Journal/JournalLine.h>
 
 #include <chrono>
 #include <span>
@@ -30,12 +31,18 @@ BOOST_DESCRIBE_STRUCT(ActivityEntry, (),
                       (id, date, toolID, subject, doneCount, skippedCount, failedCount, inputBytes,
                        outputBytes, outputFiles, undo, undone))
 
-/// The entry of a job that finished just now.
-ActivityEntry activityEntry(const std::string& toolID, const JobResult& result);
+/// A job that begins now, under a new id.
+journal::Job startedJob(std::string toolID, std::span<const InputFile> files);
 
-/// What a job worked on: the name of the one dropped folder, or the first file's name and how many others
+/// What a job works on: the name of the one dropped folder, or the first file's name and how many others
 /// there are, as in "beach.jpg and 11 others".
-std::string activitySubject(std::span<const ItemResult> items);
+std::string activitySubject(std::span<const InputFile> files);
+
+/// The entry of a job that finished just now.
+ActivityEntry activityEntry(const journal::Job& job, const JobResult& result);
+/// The entry of a job whose program died then while it saved.
+ActivityEntry activityEntry(const journal::Job& job, UndoRecord undo,
+                            std::chrono::system_clock::time_point died);
 
 /// "2026-11-13T09:41:00Z".
 std::string isoDate(std::chrono::system_clock::time_point time);

@@ -1,4 +1,5 @@
 #include <Tamble/Model/ActivityStore.h>
+#include <Tamble/Model/UndoMarks.h>
 
 #include <TambleCore/Platform/FileLock.h>
 #include <TambleCore/Platform/StandardFolders.h>
@@ -36,8 +37,8 @@ const ActivityEntry* ActivityStore::entry(const std::string& id) const {
     return found == entries_.end() ? nullptr : &*found;
 }
 
-void ActivityStore::add(ActivityEntry entry) {
-    merge([&](std::vector<ActivityEntry>& entries) {
+bool ActivityStore::add(ActivityEntry entry) {
+    return merge([&](std::vector<ActivityEntry>& entries) {
         // The change is made once on disk and once more in memory when the disk refuses it.
         if (find(entries, entry.id) == entries.end()) entries.insert(entries.begin(), entry);
         if (entries.size() > maximumEntries) entries.resize(maximumEntries);
@@ -54,11 +55,7 @@ std::optional<UndoReport> ActivityStore::undo(const std::string& id) {
         const FileLock lock = FileLock::waitFor(file_.lockFile("undo"));
         if (auto onDisk = entriesOnDisk()) entries_ = std::move(*onDisk);
         if (const ActivityEntry* found = entry(id); found != nullptr && !found->undone) {
-            report = apply(found->undo, *engine_.fileOps);
-            undoneIDs_.insert(id);
-            merge([&](std::vector<ActivityEntry>& entries) {
-                if (const auto undone = find(entries, id); undone != entries.end()) undone->undone = true;
-            });
+            report = takeBack(*found);
             activityLog.notice("Undid job: {} removed, {} restored, {} problems", report->removedOutputs,
                                report->restoredItems, report->problems);
         }
@@ -67,6 +64,22 @@ std::optional<UndoReport> ActivityStore::undo(const std::string& id) {
     }
     undoingIDs_.erase(id);
     changed();
+    return report;
+}
+
+/// An undo that was killed is known by its mark, and is gone on with.
+UndoReport ActivityStore::takeBack(const ActivityEntry& entry) {
+    const std::string id = entry.id;
+    UndoMarks marks(file_.path());
+    const bool isResumed = marks.contain(id);
+    marks.add(id);
+    const UndoReport report =
+        isResumed ? resume(entry.undo, *engine_.fileOps) : apply(entry.undo, *engine_.fileOps);
+    undoneIDs_.insert(id);
+    const bool isSaved = merge([&](std::vector<ActivityEntry>& entries) {
+        if (const auto undone = find(entries, id); undone != entries.end()) undone->undone = true;
+    });
+    if (isSaved) marks.remove(id);
     return report;
 }
 
@@ -85,8 +98,9 @@ std::optional<std::vector<ActivityEntry>> ActivityStore::entriesOnDisk() const {
     }
 }
 
-/// Makes the change to what the file holds by now; when that cannot be saved, to what is in memory.
-void ActivityStore::merge(const Change& change) {
+/// Makes the change to what the file holds by now; when that cannot be saved, to what is in memory, and
+/// answers false.
+bool ActivityStore::merge(const Change& change) {
     try {
         std::vector<ActivityEntry> merged;
         file_.update([&] {
@@ -97,11 +111,14 @@ void ActivityStore::merge(const Change& change) {
             return encodeJson(merged);
         });
         entries_ = std::move(merged);
+        changed();
+        return true;
     } catch (const std::exception& error) {
         activityLog.error("Couldn't save activity: {}", causeOf(error));
         change(entries_);
+        changed();
+        return false;
     }
-    changed();
 }
 
 void ActivityStore::changed() const {

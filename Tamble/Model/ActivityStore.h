@@ -28,7 +28,8 @@ class ActivityStore {
     const std::vector<ActivityEntry>& entries() const noexcept { return entries_; }
     const ActivityEntry* entry(const std::string& id) const;
 
-    void add(ActivityEntry entry);
+    /// Answers whether the entry is on disk; in memory it is in any case.
+    bool add(ActivityEntry entry);
     /// Takes the job back and waits until it is. Nothing when there is no such entry, or it is undone, or
     /// being undone.
     std::optional<UndoReport> undo(const std::string& id);
@@ -45,7 +46,8 @@ class ActivityStore {
   private:
     using Change = std::function<void(std::vector<ActivityEntry>&)>;
     std::optional<std::vector<ActivityEntry>> entriesOnDisk() const;
-    void merge(const Change& change);
+    bool merge(const Change& change);
+    UndoReport takeBack(const ActivityEntry& entry);
     void changed() const;
 
     JobEngine engine_;

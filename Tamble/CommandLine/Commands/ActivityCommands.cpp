@@ -1,5 +1,7 @@
 #include <Tamble/CommandLine/Arguments/UsageError.h>
+#include <Tamble/CommandLine/Commands/ActivityText.h>
 #include <Tamble/CommandLine/Commands/Commands.h>
+#include <Tamble/CommandLine/Commands/InterruptedJobs.h>
 #include <Tamble/CommandLine/Progress/StopSignals.h>
 #include <Tamble/CommandLine/Text/Amounts.h>
 #include <Tamble/CommandLine/Text/Layout.h>
@@ -10,25 +12,16 @@
 #include <TambleCore/Platform/SystemFileOperations.h>
 #include <TambleCore/Support/Wording.h>
 
-#include <fmt/chrono.h>
 #include <fmt/format.h>
 
 namespace tamble {
 namespace {
 
-/// As many characters of an id as are shown and typed.
-constexpr std::size_t shortIDLength = 8;
-
 ActivityStore loadedStore() {
+    announceInterruptedJobs();
     ActivityStore store(JobEngine{.fileOps = std::make_shared<SystemFileOperations>()});
     store.load();
     return store;
-}
-
-std::string localTime(const std::string& isoText) {
-    const auto time = timeOfISODate(isoText);
-    if (!time) return safeText(isoText);
-    return fmt::format("{:%Y-%m-%d %H:%M}", fmt::localtime(std::chrono::system_clock::to_time_t(*time)));
 }
 
 std::string toolTitle(const std::string& id) {
@@ -50,8 +43,8 @@ std::string rows(const std::vector<ActivityEntry>& entries) {
         titleWidth = std::max(titleWidth, displayWidth(toolTitle(entry.toolID)));
     std::string text;
     for (const auto& entry : entries) {
-        text += fmt::format("{}  {}  {}  {}  {}{}\n", safeText(entry.id.substr(0, shortIDLength)),
-                            localTime(entry.date), padded(toolTitle(entry.toolID), titleWidth),
+        text += fmt::format("{}  {}  {}  {}  {}{}\n", shortID(entry), localDate(entry),
+                            padded(toolTitle(entry.toolID), titleWidth),
                             padded(shortened(safeText(entry.subject), subjectWidth), subjectWidth),
                             countsText(entry), entry.undone ? ". Undone" : "");
     }

@@ -3,6 +3,7 @@
 #include <Tamble/CommandLine/Arguments/SettingsArguments.h>
 #include <Tamble/CommandLine/Arguments/UsageError.h>
 #include <Tamble/CommandLine/Commands/Commands.h>
+#include <Tamble/CommandLine/Commands/InterruptedJobs.h>
 #include <Tamble/CommandLine/Commands/Isolation.h>
 #include <Tamble/CommandLine/Progress/ProgressDisplay.h>
 #include <Tamble/CommandLine/Progress/StopSignals.h>
@@ -12,7 +13,9 @@
 #include <Tamble/CommandLine/Report/ResultJson.h>
 #include <Tamble/CommandLine/Text/SafeText.h>
 #include <Tamble/Model/ActivityStore.h>
+#include <Tamble/Model/JobRecovery.h>
 
+#include <TambleCore/Jobs/Journal/JournalFile.h>
 #include <TambleCore/Platform/SystemFileOperations.h>
 
 #include <iostream>
@@ -42,8 +45,8 @@ TypedJob jobRequest(const ToolDefinition& tool, const CommandDescription& comman
     return request;
 }
 
-JobEngine systemEngine() {
-    return {.fileOps = std::make_shared<SystemFileOperations>()};
+JobEngine systemEngine(std::shared_ptr<JobJournal> journal = {}) {
+    return {.fileOps = std::make_shared<SystemFileOperations>(), .journal = std::move(journal)};
 }
 
 JobPlan planOf(const TypedJob& request, std::span<const InputFile> files) {
@@ -74,47 +77,51 @@ void answerSignal(ProgressDisplay& display, std::stop_source& stop) {
     }
 }
 
-JobResult runWatched(const TypedJob& request, std::vector<InputFile> files, ProgressDisplay& display,
-                     std::stop_token stop) {
+JobResult runWatched(const JobEngine& engine, const TypedJob& request, std::vector<InputFile> files,
+                     ProgressDisplay& display, std::stop_token stop) {
     const auto onProgress = [&display](const JobProgress& progress) { display.update(progress); };
     if (const auto* processor = std::get_if<std::unique_ptr<FileProcessor>>(&request.work)) {
         const WatchedProcessor watched(**processor, [&display](const InputFile& file) {
             display.startedFile(safeText(file.url.filename().native()));
         });
-        return systemEngine().run(std::move(files), watched, request.configuration, onProgress,
-                                  std::move(stop));
+        return engine.run(std::move(files), watched, request.configuration, onProgress, std::move(stop));
     }
-    return systemEngine().runCombined(std::move(files),
-                                      *std::get<std::unique_ptr<FileCombiner>>(request.work),
-                                      request.configuration, onProgress, std::move(stop));
-}
-
-/// Empty when the job left nothing to remember.
-std::string rememberedID(const std::string& toolID, const JobResult& result) {
-    const bool anyDone = std::ranges::any_of(
-        result.items, [](const auto& item) { return std::holds_alternative<outcome::Done>(item.outcome); });
-    if (!anyDone && result.undo.isEmpty()) return {};
-    ActivityEntry entry = activityEntry(toolID, result);
-    const std::string id = entry.id;
-    ActivityStore store(systemEngine());
-    store.load();
-    store.add(std::move(entry));
-    return id;
+    return engine.runCombined(std::move(files), *std::get<std::unique_ptr<FileCombiner>>(request.work),
+                              request.configuration, onProgress, std::move(stop));
 }
 
 struct FinishedJob {
     JobResult result;
+    /// Empty when the job left nothing to remember.
     std::string activityID;
 };
+
+bool leftAnything(const JobResult& result) {
+    const auto isDone = [](const ItemResult& item) {
+        return std::holds_alternative<outcome::Done>(item.outcome);
+    };
+    return !result.undo.isEmpty() || std::ranges::any_of(result.items, isDone);
+}
+
+/// Whether the job is in the log for good.
+bool remember(ActivityEntry entry) {
+    ActivityStore store(systemEngine());
+    store.load();
+    return store.add(std::move(entry));
+}
 
 /// A signal is answered until the job is remembered: what was saved must be possible to undo.
 FinishedJob runAndRemember(const std::string& toolID, const TypedJob& request, std::vector<InputFile> files) {
     ProgressDisplay display(Terminal::errors());
     std::stop_source stop;
     const StopSignals signals([&] { answerSignal(display, stop); });
-    FinishedJob job{.result = runWatched(request, std::move(files), display, stop.get_token())};
-    job.activityID = rememberedID(toolID, job.result);
-    return job;
+    const journal::Job job = startedJob(toolID, files);
+    const auto journal = std::make_shared<JournalFile>(journalFolder(), job);
+    JobResult result =
+        runWatched(systemEngine(journal), request, std::move(files), display, stop.get_token());
+    const bool hasEntry = leftAnything(result);
+    if (!hasEntry || remember(activityEntry(job, result))) journal->forget();
+    return {.result = std::move(result), .activityID = hasEntry ? job.id : ""};
 }
 
 ExitStatus exitStatus(const JobResult& result, const ScanResult& scan) {
@@ -129,6 +136,7 @@ ExitStatus exitStatus(const JobResult& result, const ScanResult& scan) {
 ExitStatus runTool(const ToolDefinition& tool, const CommandDescription& command,
                    const ParsedArguments& arguments) {
     const TypedJob request = jobRequest(tool, command, arguments);
+    announceInterruptedJobs();
     ScanResult scan = FolderScanner{request.scanOptions}.scan(request.paths);
     for (const auto& note : scanNotes(scan)) printError(note + '\n');
     const bool isEmpty = scan.files.empty();

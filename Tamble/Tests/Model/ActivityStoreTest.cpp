@@ -31,7 +31,8 @@ class Activity : public testing::Test {
                         .root = folder.files(),
                         .byteSize = 3,
                         .isLoose = true};
-        return activityEntry("image.convert", engine.run({input}, CopyThroughProcessor(), {}));
+        return activityEntry(startedJob("image.convert", {&input, 1}),
+                             engine.run({input}, CopyThroughProcessor(), {}));
     }
 
     TestFolder folder;
@@ -138,16 +139,17 @@ TEST(ActivityTexts, SayWhatPeopleRead) {
               "1 new files removed. 2 items couldn't be put back (the Bin may have been "
               "emptied). "
               "4 new files were changed after the job, so they were kept.");
-    const auto item = [](const char* file, const char* root, bool isLoose) {
-        return ItemResult{{.url = file, .root = root, .isLoose = isLoose}, outcome::Done{}};
+    const auto file = [](const char* url, const char* root, bool isLoose) {
+        return InputFile{.url = url, .root = root, .isLoose = isLoose};
     };
-    using Items = std::vector<ItemResult>;
-    EXPECT_EQ(activitySubject(Items{item("/in/x/a.png", "/in", false), item("/other/b.png", "/other", false)}),
-              "a.png and 1 other");
-    EXPECT_EQ(activitySubject(Items{item("/in/x/a.png", "/in", false), item("/in/b.png", "/in", false)}),
+    using Files = std::vector<InputFile>;
+    EXPECT_EQ(
+        activitySubject(Files{file("/in/x/a.png", "/in", false), file("/other/b.png", "/other", false)}),
+        "a.png and 1 other");
+    EXPECT_EQ(activitySubject(Files{file("/in/x/a.png", "/in", false), file("/in/b.png", "/in", false)}),
               "in");
-    EXPECT_EQ(activitySubject(Items{item("/in/a.png", "/in", true)}), "a.png");
-    EXPECT_EQ(activitySubject(Items(12, item("/in/a\xFF.png", "/in", true))), "a\uFFFD.png and 11 others");
+    EXPECT_EQ(activitySubject(Files{file("/in/a.png", "/in", true)}), "a.png");
+    EXPECT_EQ(activitySubject(Files(12, file("/in/a\xFF.png", "/in", true))), "a\uFFFD.png and 11 others");
     const auto time = timeOfISODate("2026-11-13T09:41:00Z");
     ASSERT_TRUE(time);
     EXPECT_EQ(isoDate(*time), "2026-11-13T09:41:00Z");

@@ -1,5 +1,6 @@
 #include <TambleCore/Jobs/ItemProcessing.h>
 #include <TambleCore/Jobs/OutputAttributes.h>
+#include <TambleCore/Platform/FileProperties.h>
 #include <TambleCore/Platform/SystemError.h>
 #include <TambleCore/Support/Failure.h>
 #include <TambleCore/Support/Log.h>
@@ -22,11 +23,6 @@ outcome::Failed unexpected(const std::string& cause) {
     return failed("unexpected", "Something unexpected went wrong: " + cause);
 }
 
-bool isThere(const std::filesystem::path& path) {
-    std::error_code error;
-    return std::filesystem::exists(std::filesystem::symlink_status(path, error));
-}
-
 /// The outcome of work that answers with its own; whatever it throws becomes one.
 template <typename Work>
 StageOutcome outcomeOf(const Work& work, const std::stop_token& stop) {
@@ -38,7 +34,8 @@ StageOutcome outcomeOf(const Work& work, const std::stop_token& stop) {
         if (stop.stop_requested()) return outcome::Cancelled{};
         return unexpected("it was cancelled by itself.");
     } catch (const Failure& failure) {
-        if (!failure.detail().empty()) engineLog.error("Item failed: {} ({})", failure.code(), failure.detail());
+        if (!failure.detail().empty())
+            engineLog.error("Item failed: {} ({})", failure.code(), failure.detail());
         return failed(failure.code(), failure.sentence());
     } catch (const std::exception& error) {
         return unexpected(causeOf(error));

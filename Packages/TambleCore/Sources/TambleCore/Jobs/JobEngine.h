@@ -1,10 +1,10 @@
 #pragma once
 
 #include <TambleCore/Jobs/FileProcessor.h>
-#include <TambleCore/Jobs/JobJournal.h>
 #include <TambleCore/Jobs/JobPlan.h>
 #include <TambleCore/Jobs/JobProgress.h>
 #include <TambleCore/Jobs/JobResult.h>
+#include <TambleCore/Jobs/Journal/JobJournal.h>
 #include <TambleCore/Jobs/SaveLocation.h>
 #include <TambleCore/Platform/FileOperations.h>
 

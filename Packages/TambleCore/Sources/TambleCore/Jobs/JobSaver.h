@@ -1,6 +1,6 @@
 #pragma once
 
-#include <TambleCore/Jobs/JobJournal.h>
+#include <TambleCore/Jobs/Journal/JobJournal.h>
 #include <TambleCore/Jobs/SavePlanner.h>
 #include <TambleCore/Platform/FileOperations.h>
 

@@ -1,15 +1,9 @@
 #include <TambleCore/Jobs/SavingPhase.h>
 #include <TambleCore/Platform/SystemError.h>
-#include <TambleCore/Support/Log.h>
 
 #include <utility>
 
 namespace tamble {
-namespace {
-
-constexpr Log engineLog("engine");
-
-}  // namespace
 
 SavingPhase::SavingPhase(FileOperations& fileOps, JobJournal* journal, SavePlanner& planner,
                          ClashPolicy policy, StagingArea& staging)
@@ -32,14 +26,7 @@ void SavingPhase::saveAll(const HandOver& handOver) {
 }
 
 UndoRecord SavingPhase::finish() {
-    UndoRecord record = saver_.finish();
-    if (journal_ == nullptr) return record;
-    try {
-        journal_->didFinish();
-    } catch (const std::exception& error) {
-        engineLog.error("Couldn't write the journal: {}", causeOf(error));
-    }
-    return record;
+    return saver_.finish();
 }
 
 PlannedSave SavingPhase::plannedSave(std::size_t index, Placement placement) const {
@@ -57,7 +44,7 @@ std::optional<std::string> SavingPhase::announce() const {
         journal_->willBeginSaving();
         return std::nullopt;
     } catch (const std::exception& error) {
-        return causeOf(error);
+        return "Couldn't write down what would be changed: " + causeOf(error);
     }
 }
 

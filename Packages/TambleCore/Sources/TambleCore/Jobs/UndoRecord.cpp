@@ -1,10 +1,12 @@
 #include <TambleCore/Jobs/UndoRecord.h>
+#include <TambleCore/Platform/FileProperties.h>
 #include <TambleCore/Support/Log.h>
 #include <TambleCore/Support/PathKey.h>
 #include <TambleCore/Support/UUID.h>
 
 #include <ranges>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace tamble {
 namespace {
@@ -115,6 +117,20 @@ class Undo {
 
 UndoReport apply(const UndoRecord& record, FileOperations& fileOps) {
     return Undo(record, fileOps).run();
+}
+
+UndoReport resume(UndoRecord record, FileOperations& fileOps) {
+    std::unordered_set<std::string> back;
+    std::erase_if(record.trashedItems, [&](const TrashedItem& item) {
+        if (isThere(item.inTrash) || !isThere(item.original)) return false;
+        back.insert(pathKey(item.original));
+        return true;
+    });
+    std::erase_if(record.createdFiles,
+                  [&](const std::filesystem::path& output) { return back.contains(pathKey(output)); });
+    UndoReport report = apply(record, fileOps);
+    report.restoredItems += static_cast<int>(back.size());
+    return report;
 }
 
 }  // namespace tamble

@@ -67,6 +67,10 @@ BOOST_DESCRIBE_STRUCT(UndoReport, (), (removedOutputs, restoredItems, problems, 
 /// output that is gone already counts as nothing. Never throws, never overwrites, never stops at a problem.
 UndoReport apply(const UndoRecord& record, FileOperations& fileOps);
 
+/// Goes on with an apply() during which the program died: what is back already is left alone, also where it
+/// now stands under the name of an output.
+UndoReport resume(UndoRecord record, FileOperations& fileOps);
+
 /// The path itself, or its file URL when its bytes are not UTF-8 and so cannot be a JSON key.
 std::string fingerprintKey(const std::filesystem::path& path);
 

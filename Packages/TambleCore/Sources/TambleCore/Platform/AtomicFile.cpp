@@ -15,16 +15,25 @@ namespace {
 void writeNewFile(const std::filesystem::path& path, std::string_view content) {
     const FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (!file) throwLastError("cannot write", path);
-    while (!content.empty()) {
-        const ssize_t count = ::write(file.number(), content.data(), content.size());
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) throwLastError("cannot write", path);
-        content.remove_prefix(static_cast<std::size_t>(count));
-    }
+    writeAll(file.number(), content, path);
     if (::fsync(file.number()) != 0 && errno != EINVAL) throwLastError("cannot write", path);
 }
 
 }  // namespace
+
+void writeAll(int file, std::string_view content, const std::filesystem::path& path) {
+    while (!content.empty()) {
+        const ssize_t count = ::write(file, content.data(), content.size());
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) throwLastError("cannot write", path);
+        content.remove_prefix(static_cast<std::size_t>(count));
+    }
+}
+
+void syncFolder(const std::filesystem::path& folder) {
+    const FileDescriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened) static_cast<void>(::fsync(opened.number()));
+}
 
 void writeFileAtomically(const std::filesystem::path& file, std::string_view content) {
     std::filesystem::create_directories(file.parent_path());
@@ -36,8 +45,7 @@ void writeFileAtomically(const std::filesystem::path& file, std::string_view con
         ::unlink(fresh.c_str());
         throw;
     }
-    const FileDescriptor folder(::open(file.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder) static_cast<void>(::fsync(folder.number()));
+    syncFolder(file.parent_path());
 }
 
 std::string readWholeFile(const std::filesystem::path& path) {

@@ -11,6 +11,13 @@ namespace tamble {
 /// std::filesystem::filesystem_error; the old file is then untouched.
 void writeFileAtomically(const std::filesystem::path& file, std::string_view content);
 
+/// Writes all of it to the open file, which stands at the path. Throws std::filesystem::filesystem_error; a
+/// part may be written then.
+void writeAll(int file, std::string_view content, const std::filesystem::path& path);
+
+/// Makes the names in the folder survive a power cut, as far as its file system can.
+void syncFolder(const std::filesystem::path& folder);
+
 /// The whole file. Throws std::filesystem::filesystem_error.
 std::string readWholeFile(const std::filesystem::path& file);
 

@@ -1,3 +1,4 @@
+#include <TambleCore/Platform/AtomicFile.h>
 #include <TambleCore/Platform/FileCopy.h>
 #include <TambleCore/Platform/FileDescriptor.h>
 #include <TambleCore/Platform/MoveItem.h>
@@ -55,11 +56,6 @@ Rename renameExclusively(const std::filesystem::path& from, const std::filesyste
 
 std::filesystem::path hiddenSibling(const std::filesystem::path& path) {
     return path.parent_path() / (".TambleMoving-" + newUUID());
-}
-
-void syncFolder(const std::filesystem::path& folder) {
-    const FileDescriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (opened) static_cast<void>(::fsync(opened.number()));
 }
 
 void removeQuietly(const std::filesystem::path& path) {

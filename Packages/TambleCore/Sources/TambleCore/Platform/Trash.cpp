@@ -20,9 +20,6 @@
 namespace tamble::trash {
 namespace {
 
-constexpr std::string_view noteExtension = ".trashinfo";
-constexpr std::string_view noteHeading = "[Trash Info]";
-
 class BinErrors final : public std::error_category {
   public:
     const char* name() const noexcept override { return "bin"; }
@@ -85,7 +82,7 @@ std::filesystem::path put(const std::filesystem::path& item) {
     const std::filesystem::path source = folder / given.filename();
     const TrashFolder bin = TrashFolder::forItemsOf(folder);
     const std::filesystem::path place = bin.top.empty() ? source : source.lexically_relative(bin.top);
-    const std::string text = fmt::format("{}\nPath={}\nDeletionDate={}\n", noteHeading,
+    const std::string text = fmt::format("{}\n{}{}\nDeletionDate={}\n", noteHeading, notePathKey,
                                          percentEncoded(place.native()), localTime());
     for (int attempt = 1;; ++attempt) {
         const std::string name = candidate(source.filename().native(), attempt);

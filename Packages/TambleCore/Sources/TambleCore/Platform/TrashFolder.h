@@ -1,8 +1,17 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
 
 namespace tamble {
+
+/// The note beside each item of a Bin: its name's ending, its first line, and the start of the line that says
+/// where the item was.
+namespace trash {
+inline constexpr std::string_view noteExtension = ".trashinfo";
+inline constexpr std::string_view noteHeading = "[Trash Info]";
+inline constexpr std::string_view notePathKey = "Path=";
+}  // namespace trash
 
 /// One Bin: its folder with "files" and "info" in it.
 struct TrashFolder {

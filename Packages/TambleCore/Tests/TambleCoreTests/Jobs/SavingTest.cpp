@@ -259,7 +259,6 @@ class TestJournal final : public JobJournal {
     void didTrash(const TrashedItem& item) override { say("trash", item.original); }
     void didPutBack(const TrashedItem& item) override { say("back", item.original); }
     void didCreate(const path& output, const FileFingerprint&) override { say("create", output); }
-    void didFinish() override { say("end"); }
 
   private:
     void say(const char* what, const path& item = {}) {
@@ -277,7 +276,7 @@ TEST_F(Saving, TheJournalHearsThePlanFirst) {
     };
     replace({file("a.png"), file("b.png")});
     EXPECT_EQ(hearing->told,
-              "plan a.webp, plan b.webp, begin, trash a.png, create a.webp, trash b.png, back b.png, end");
+              "plan a.webp, plan b.webp, begin, trash a.png, create a.webp, trash b.png, back b.png");
 
     hearing->refuses = true;
     const auto before = snapshot(folder.files());

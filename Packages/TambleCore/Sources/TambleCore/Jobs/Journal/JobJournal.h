@@ -29,8 +29,6 @@ class JobJournal {
     /// A file came back from the Bin, because its item could not be saved.
     virtual void didPutBack(const TrashedItem& item) = 0;
     virtual void didCreate(const std::filesystem::path& output, const FileFingerprint& fingerprint) = 0;
-    /// The job is over, and its result is about to be handed to the caller.
-    virtual void didFinish() = 0;
 };
 
 }  // namespace tamble
