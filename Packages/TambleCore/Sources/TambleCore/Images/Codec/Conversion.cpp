@@ -13,6 +13,8 @@
 #include <TambleCore/Images/Metadata/Exif/TiffStructure.h>
 #include <TambleCore/Images/Metadata/ReadMetadata.h>
 
+#include <utility>
+
 namespace tamble {
 namespace {
 
@@ -29,11 +31,11 @@ double decodingShare(ImageFormat format) {
     }
 }
 
-Bytes encodedAs(ImageFormat format, const vips::VImage& image, const Encoding& encoding,
+Bytes encodedAs(ImageFormat format, vips::VImage image, const Encoding& encoding,
                 const MetadataBlocks& blocks, const Watch& watch) {
     switch (format) {
         case ImageFormat::webp:
-            return withMetadata(encodedWebP(image, encoding, watch), format, blocks);
+            return withMetadata(encodedWebP(std::move(image), encoding, watch), format, blocks);
         case ImageFormat::jpeg:
             return withMetadata(encodedJpeg(image, encoding), format, blocks);
         case ImageFormat::png:
@@ -104,7 +106,7 @@ Bytes Conversion::encoded() const {
         }
         vips::VImage picture = decoded(file, container, settings.maxPixelSize, settings.rotation, watch);
         if (settings.removeBackground) picture = cutOut(picture, context);
-        ColouredPicture coloured = colouredFor(picture, format, keepsFormat());
+        ColouredPicture coloured = colouredFor(std::exchange(picture, {}), format, keepsFormat());
         if (format == ImageFormat::webp && keepsExactPixels(container, file)) {
             coloured.image = held(coloured.image);
             encoding.lossless = hasFewColours(coloured.image);
@@ -112,7 +114,7 @@ Bytes Conversion::encoded() const {
         source.icc = std::move(coloured.profile);
         const MetadataBlocks blocks =
             carriedOver(std::move(source), removal, coloured.image.width(), coloured.image.height());
-        return encodedAs(format, coloured.image, encoding, blocks, watch);
+        return encodedAs(format, std::move(coloured.image), encoding, blocks, watch);
     } catch (const vips::VError& error) {
         context.throwIfStopped();
         throw ConversionError(watch.sawDecodingFail() ? ConversionError::Case::cannotDecode

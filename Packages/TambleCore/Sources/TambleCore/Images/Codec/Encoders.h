@@ -30,7 +30,8 @@ Bytes encodedPng(const vips::VImage& image, const Encoding& encoding);
 Bytes encodedTiff(const vips::VImage& image);
 Bytes encodedGif(const vips::VImage& image);
 /// `image` is 8-bit RGB or RGBA in sRGB. ConversionError::tooLargeForWebP for a side above 16383 pixels.
-Bytes encodedWebP(const vips::VImage& image, const Encoding& encoding, const Watch& watch);
+/// Hand over the only reference to a large picture, so that it makes room for the encoder.
+Bytes encodedWebP(vips::VImage image, const Encoding& encoding, const Watch& watch);
 
 /// HEIC or AVIF with EXIF, XMP and profile, which only their own writer can put in.
 Bytes encodedHeif(const vips::VImage& image, ImageFormat format, const Encoding& encoding,

@@ -3,6 +3,8 @@
 #include <TambleCore/Images/Codec/PictureLimits.h>
 #include <TambleCore/Images/Codec/WebPPictureEncoder.h>
 
+#include <cstring>
+
 namespace tamble {
 namespace {
 
@@ -16,11 +18,9 @@ std::uint8_t limitedLuma(int luma) {
     return static_cast<std::uint8_t>(16 + ((luma * lumaFactor + (1 << 15)) >> 16));
 }
 
-/// Of the sum of `1 << shift` samples.
-std::uint8_t limitedColour(int sum, int shift) {
-    const int difference = sum - (128 << shift);
-    return static_cast<std::uint8_t>(128 +
-                                     ((difference * colourFactor + (1 << (15 + shift))) >> (16 + shift)));
+/// Of the sum of four samples.
+std::uint8_t limitedColour(int sum) {
+    return static_cast<std::uint8_t>(128 + (((sum - 4 * 128) * colourFactor + (1 << 17)) >> 18));
 }
 
 /// Where a turned plane's samples go.
@@ -63,35 +63,57 @@ void putLuma(const PlaneRows& rows, const TurnedPlane& target) {
     });
 }
 
-/// The colour of each block of two by two pixels, from a channel of which one sample stands for `acrossX` ·
-/// `acrossY` pixels.
-void putColour(const PlaneRows& rows, int acrossX, int acrossY, const TurnedPlane& target) {
-    const int takeX = 2 / acrossX;
-    const int takeY = 2 / acrossY;
-    const auto at = [&](int x, int y) {
-        const int column = std::min(x, rows.width - 1);
-        const int row = std::min(y, rows.height - 1);
-        return int{
-            rows.samples[static_cast<std::size_t>(row) * rows.stride + static_cast<std::size_t>(column)]};
+/// A colour channel of the whole picture, as stored.
+struct ColourChannel {
+    PictureSize size;
+    /// How many pixels one sample covers along each side, one or two.
+    int acrossX = 1;
+    int acrossY = 1;
+    std::vector<std::uint8_t> samples;
+
+    void take(const PlaneRows& rows) {
+        const auto width = static_cast<std::size_t>(size.width);
+        for (int row = 0; row < rows.height; ++row) {
+            std::memcpy(samples.data() + static_cast<std::size_t>(rows.top + row) * width,
+                        rows.samples + static_cast<std::size_t>(row) * rows.stride, width);
+        }
+    }
+};
+
+/// Offsets of a channel's samples for each pair of neighbours along one side of the turned picture.
+std::vector<std::array<std::size_t, 2>> samplePairs(int pixels, bool isMirrored, int across,
+                                                    std::size_t step) {
+    const auto offset = [&](int turned) {
+        const int last = std::min(turned, pixels - 1);
+        return static_cast<std::size_t>((isMirrored ? pixels - 1 - last : last) / across) * step;
     };
-    const int width = (rows.width + takeX - 1) / takeX;
-    const int height = (rows.height + takeY - 1) / takeY;
-    target.put(width, rows.top / takeY, height, [&](int x, int y) {
-        const int left = x * takeX;
-        const int top = y * takeY;
-        // Samples that stand for two pixels count for both.
-        const int sum = at(left, top) + at(left + takeX - 1, top) + at(left, top + takeY - 1) +
-                        at(left + takeX - 1, top + takeY - 1);
-        return limitedColour(sum, 2);
-    });
+    std::vector<std::array<std::size_t, 2>> pairs;
+    for (int pixel = 0; pixel < pixels; pixel += 2) pairs.push_back({offset(pixel), offset(pixel + 1)});
+    return pairs;
+}
+
+/// The mean colour of each block of two by two pixels of the turned picture. After a turn of odd sides these
+/// blocks lie across those of the stored picture.
+void putColour(const ColourChannel& channel, PictureSize upright, const Turn& turn, std::uint8_t* target,
+               std::ptrdiff_t stride) {
+    const auto rowStep = static_cast<std::size_t>(channel.size.width);
+    const auto columns = turn.transposes ? samplePairs(upright.width, turn.mirrorsX, channel.acrossY, rowStep)
+                                         : samplePairs(upright.width, turn.mirrorsX, channel.acrossX, 1);
+    const auto rows = turn.transposes ? samplePairs(upright.height, turn.mirrorsY, channel.acrossX, 1)
+                                      : samplePairs(upright.height, turn.mirrorsY, channel.acrossY, rowStep);
+    const std::uint8_t* const samples = channel.samples.data();
+    for (const auto& [upper, lower] : rows) {
+        for (std::size_t x = 0; x < columns.size(); ++x) {
+            const auto [left, right] = columns[x];
+            target[x] = limitedColour(samples[upper + left] + samples[upper + right] + samples[lower + left] +
+                                      samples[lower + right]);
+        }
+        target += stride;
+    }
 }
 
 PictureSize turnedSize(PictureSize size, const Turn& turn) {
     return turn.transposes ? PictureSize{size.height, size.width} : size;
-}
-
-PictureSize halved(PictureSize size) {
-    return {(size.width + 1) / 2, (size.height + 1) / 2};
 }
 
 /// How many pixels one sample of a channel covers along a side; 0 when neither one nor two.
@@ -109,7 +131,6 @@ std::optional<EncodedPicture> webPOfJpeg(ByteView file, std::optional<int> maxPi
     refuseOversized(size.width, size.height);
     if (!reader.hasLuma() || reader.channels() != 3 || fitted(size, maxPixelSize) != size)
         return std::nullopt;
-    if ((size.width % 2 != 0 || size.height % 2 != 0) && turn != Turn{}) return std::nullopt;
     reader.shrink(1);
     const PictureSize colour = reader.channelSizes()[1];
     const int acrossX = across(size.width, colour.width);
@@ -120,14 +141,19 @@ std::optional<EncodedPicture> webPOfJpeg(ByteView file, std::optional<int> maxPi
     WebPPlanes planes(upright, {.lossless = false, .hasAlpha = false});
     WebPPicture& picture = planes.picture();
     const TurnedPlane luma(picture.y, picture.y_stride, upright, turn);
-    const TurnedPlane blue(picture.u, picture.uv_stride, halved(upright), turn);
-    const TurnedPlane red(picture.v, picture.uv_stride, halved(upright), turn);
-    reader.read([&](std::span<const PlaneRows> rows) {
-        putLuma(rows[0], luma);
-        putColour(rows[1], acrossX, acrossY, blue);
-        putColour(rows[2], acrossX, acrossY, red);
-        watch.context().report(watch.decodingShare() * (rows[0].top + rows[0].height) / size.height);
-    });
+    {
+        ColourChannel blue{.size = colour, .acrossX = acrossX, .acrossY = acrossY, .samples = {}};
+        blue.samples.resize(static_cast<std::size_t>(colour.width) * static_cast<std::size_t>(colour.height));
+        ColourChannel red = blue;
+        reader.read([&](std::span<const PlaneRows> rows) {
+            putLuma(rows[0], luma);
+            blue.take(rows[1]);
+            red.take(rows[2]);
+            watch.context().report(watch.decodingShare() * (rows[0].top + rows[0].height) / size.height);
+        });
+        putColour(blue, upright, turn, picture.u, picture.uv_stride);
+        putColour(red, upright, turn, picture.v, picture.uv_stride);
+    }
     return EncodedPicture{encodedPicture(picture, encoding, watch), upright};
 }
 

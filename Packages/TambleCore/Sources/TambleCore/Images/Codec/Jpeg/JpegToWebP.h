@@ -5,9 +5,8 @@
 namespace tamble {
 
 /// A lossy WebP made of a whole JPEG in sRGB, turned: its luma and colour differences become WebP's own, with
-/// no RGB and no second picture in between. Empty when its channels are not such, or do not fall on WebP's
-/// blocks of two by two pixels after the turn, or when it is larger than `maxPixelSize`. Throws
-/// ConversionError; Cancelled.
+/// no RGB and no second picture in between. Empty when its channels are not such, or when it is larger than
+/// `maxPixelSize`. Throws ConversionError; Cancelled.
 std::optional<EncodedPicture> webPOfJpeg(ByteView file, std::optional<int> maxPixelSize, const Turn& turn,
                                          const Encoding& encoding, const Watch& watch);
 
