@@ -10,6 +10,7 @@
 #include <iostream>
 #include <thread>
 
+#include <malloc.h>
 #include <sys/stat.h>
 
 namespace tamble {
@@ -40,6 +41,13 @@ std::optional<SandboxPolicy> policyFrom(std::span<char* const> arguments) {
     return policy;
 }
 
+/// Pictures go back to the system at once: the allocator would keep the room of the largest one for the next.
+void returnLargeBlocks() {
+    constexpr int threshold = 1 << 20;
+    ::mallopt(M_MMAP_THRESHOLD, threshold);
+    ::mallopt(M_TRIM_THRESHOLD, threshold);
+}
+
 }  // namespace
 
 int runWorker(std::span<char* const> arguments, const ToolLookup& tools) {
@@ -49,6 +57,7 @@ int runWorker(std::span<char* const> arguments, const ToolLookup& tools) {
         return 2;
     }
     std::signal(SIGPIPE, SIG_IGN);
+    returnLargeBlocks();
     const auto report = enterSandbox(*policy);
     RequestQueue queue{FileDescriptor(workerConnection)};
     queue.reply(reply::Ready{.confinesFiles = report.confinesFiles, .confinesCalls = report.confinesCalls});
