@@ -75,7 +75,7 @@ build() {
     shift
     check_ccache
     nice ninja -C "$root/build/$preset" -j "$(build_jobs)" "$@" </dev/null 2>&1 | tee "$log" | while IFS= read -r line; do
-        [[ $line == '['*/*']'* ]] || continue
+        [[ $line == '['[1-9]*/*']'* ]] || continue # 0 is looking for new files
         [[ $started ]] || say "Building Tamble in build/$preset"
         started=yes
         [[ ! -t 2 ]] || printf '\r%s\e[K' "${line%%]*}]" >&2
