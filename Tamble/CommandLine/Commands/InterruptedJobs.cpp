@@ -5,6 +5,7 @@
 #include <Tamble/CommandLine/Text/Terminal.h>
 #include <Tamble/Model/JobRecovery.h>
 
+#include <TambleCore/Jobs/StagingFolder.h>
 #include <TambleCore/Platform/SystemFileOperations.h>
 
 #include <fmt/format.h>
@@ -14,7 +15,9 @@ namespace tamble {
 void announceInterruptedJobs() {
     const auto fileOps = std::make_shared<SystemFileOperations>();
     ActivityStore store(JobEngine{.fileOps = fileOps});
-    for (const ActivityEntry& entry : recoverInterruptedJobs(store, *fileOps)) {
+    const auto entries = recoverInterruptedJobs(store, *fileOps);
+    if (!entries.empty()) removeStaleStagingFolders();
+    for (const ActivityEntry& entry : entries) {
         printError(fmt::format(
             "A job over “{}” was interrupted on {} while it saved: {}, {} in the Bin. To undo it: tamble "
             "undo {}\n",

@@ -7,6 +7,9 @@
 #include <TambleCore/Support/Text.h>
 #include <TambleCore/Support/Wording.h>
 
+#include <algorithm>
+#include <functional>
+
 #include <fmt/format.h>
 
 namespace tamble {
@@ -26,20 +29,33 @@ Json toolJson(const ToolInfo& tool) {
 }
 
 HelpEntry toolEntry(const ToolInfo& tool) {
-    const std::string reason = ToolCatalog::unavailableReason(tool.id);
-    const std::string text = fmt::format("{}: {}", localized(tool.title), localized(tool.subtitle));
-    return {tool.id, reason.empty() ? text : fmt::format("{}\n({})", text, localized(reason))};
+    return {tool.id, fmt::format("{}: {}", localized(tool.title), localized(tool.subtitle))};
+}
+
+/// Why tools of one family cannot run: said once when it is the same for all of them.
+void tellReasons(HelpSection& section, std::span<const std::string> reasons) {
+    if (std::ranges::adjacent_find(reasons, std::not_equal_to()) == reasons.end()) {
+        section.text = reasons.front();
+        return;
+    }
+    for (std::size_t i = 0; i < reasons.size(); ++i) {
+        if (!reasons[i].empty()) section.entries[i].text += fmt::format("\n({})", reasons[i]);
+    }
 }
 
 HelpPage toolsPage() {
     HelpPage page{.summary = "All tools, family by family. “tamble TOOL --help” tells what a tool can do."};
+    std::vector<std::vector<std::string>> reasons;
     for (const ToolInfo& tool : ToolCatalog::all()) {
         const std::string_view family = title(tool.category);
         if (page.sections.empty() || page.sections.back().heading != family) {
             page.sections.push_back({.heading = std::string(family)});
+            reasons.emplace_back();
         }
         page.sections.back().entries.push_back(toolEntry(tool));
+        reasons.back().push_back(localized(ToolCatalog::unavailableReason(tool.id)));
     }
+    for (std::size_t i = 0; i < page.sections.size(); ++i) tellReasons(page.sections[i], reasons[i]);
     return page;
 }
 
