@@ -23,7 +23,7 @@ struct ActivityEntry {
     /// Bytes of all inputs, and of all outputs.
     std::int64_t inputBytes = 0;
     std::int64_t outputBytes = 0;
-    std::vector<std::filesystem::path> outputFiles;
+    std::vector<FilePath> outputFiles;
     UndoRecord undo;
     bool undone = false;
 };

@@ -14,8 +14,17 @@ namespace {
 
 constexpr Log activityLog("activity");
 
-auto find(std::vector<ActivityEntry>& entries, const std::string& id) {
-    return std::ranges::find(entries, id, &ActivityEntry::id);
+auto find(std::vector<StoredEntry>& entries, const std::string& id) {
+    return std::ranges::find_if(entries, [&](const StoredEntry& entry) { return entry.hasID(id); });
+}
+
+void forgetOldest(std::vector<StoredEntry>& entries) {
+    std::size_t kept = 0;
+    for (std::size_t bytes = 0; kept < std::min(entries.size(), ActivityStore::maximumEntries); ++kept) {
+        bytes += entries[kept].json().size();
+        if (kept > 0 && bytes > ActivityStore::maximumBytes) break;
+    }
+    entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(kept), entries.end());
 }
 
 }  // namespace
@@ -28,20 +37,34 @@ std::filesystem::path ActivityStore::defaultFile() {
 }
 
 void ActivityStore::load() {
-    entries_ = entriesOnDisk().value_or(std::vector<ActivityEntry>());
+    hold(entriesOnDisk().value_or(std::vector<StoredEntry>()));
     changed();
 }
 
+const std::vector<ActivityEntry>& ActivityStore::entries() const {
+    if (entries_) return *entries_;
+    entries_.emplace();
+    for (const StoredEntry& stored : stored_) {
+        try {
+            entries_->push_back(stored.decoded());
+        } catch (const DecodeError& error) {
+            activityLog.error("Activity entry unreadable, leaving it out: {}", error.what());
+        }
+    }
+    return *entries_;
+}
+
 const ActivityEntry* ActivityStore::entry(const std::string& id) const {
-    const auto found = std::ranges::find(entries_, id, &ActivityEntry::id);
-    return found == entries_.end() ? nullptr : &*found;
+    const auto found = std::ranges::find(entries(), id, &ActivityEntry::id);
+    return found == entries().end() ? nullptr : &*found;
 }
 
 bool ActivityStore::add(ActivityEntry entry) {
-    return merge([&](std::vector<ActivityEntry>& entries) {
+    const StoredEntry added(entry);
+    return merge([&](std::vector<StoredEntry>& entries) {
         // The change is made once on disk and once more in memory when the disk refuses it.
-        if (find(entries, entry.id) == entries.end()) entries.insert(entries.begin(), entry);
-        if (entries.size() > maximumEntries) entries.resize(maximumEntries);
+        if (find(entries, entry.id) == entries.end()) entries.insert(entries.begin(), added);
+        forgetOldest(entries);
     });
 }
 
@@ -53,13 +76,15 @@ std::optional<UndoReport> ActivityStore::undo(const std::string& id) {
         // One undo at a time among all programs: two of one job would each see the other's half-done work.
         std::filesystem::create_directories(file_.path().parent_path());
         const FileLock lock = FileLock::waitFor(file_.lockFile("undo"));
-        if (auto onDisk = entriesOnDisk()) entries_ = std::move(*onDisk);
-        if (const ActivityEntry* found = entry(id); found != nullptr && !found->undone) {
-            report = takeBack(*found);
+        if (auto onDisk = entriesOnDisk()) hold(std::move(*onDisk));
+        const auto found = find(stored_, id);
+        if (auto entry = found == stored_.end() ? std::nullopt : std::optional(found->decoded());
+            entry && !entry->undone) {
+            report = takeBack(std::move(*entry));
             activityLog.notice("Undid job: {} removed, {} restored, {} problems", report->removedOutputs,
                                report->restoredItems, report->problems);
         }
-    } catch (const std::filesystem::filesystem_error& error) {
+    } catch (const std::exception& error) {
         activityLog.error("Couldn't undo: {}", causeOf(error));
     }
     undoingIDs_.erase(id);
@@ -68,7 +93,7 @@ std::optional<UndoReport> ActivityStore::undo(const std::string& id) {
 }
 
 /// An undo that was killed is known by its mark, and is gone on with.
-UndoReport ActivityStore::takeBack(const ActivityEntry& entry) {
+UndoReport ActivityStore::takeBack(ActivityEntry entry) {
     const std::string id = entry.id;
     UndoMarks marks(file_.path());
     const bool isResumed = marks.contain(id);
@@ -76,22 +101,24 @@ UndoReport ActivityStore::takeBack(const ActivityEntry& entry) {
     const UndoReport report =
         isResumed ? resume(entry.undo, *engine_.fileOps) : apply(entry.undo, *engine_.fileOps);
     undoneIDs_.insert(id);
-    const bool isSaved = merge([&](std::vector<ActivityEntry>& entries) {
-        if (const auto undone = find(entries, id); undone != entries.end()) undone->undone = true;
+    entry.undone = true;
+    const StoredEntry undone(entry);
+    const bool isSaved = merge([&](std::vector<StoredEntry>& entries) {
+        if (const auto old = find(entries, id); old != entries.end()) *old = undone;
     });
     if (isSaved) marks.remove(id);
     return report;
 }
 
 void ActivityStore::clear() {
-    merge([](std::vector<ActivityEntry>& entries) { entries.clear(); });
+    merge([](std::vector<StoredEntry>& entries) { entries.clear(); });
 }
 
-/// Empty when there is a file that cannot be read or decoded.
-std::optional<std::vector<ActivityEntry>> ActivityStore::entriesOnDisk() const {
+/// Empty when there is a file that cannot be read or is no list.
+std::optional<std::vector<StoredEntry>> ActivityStore::entriesOnDisk() const {
     try {
-        const auto document = file_.read();
-        return document ? decodeJson<std::vector<ActivityEntry>>(*document) : std::vector<ActivityEntry>();
+        auto text = file_.readText();
+        return text ? StoredEntry::all(std::move(*text)) : std::vector<StoredEntry>();
     } catch (const std::exception& error) {
         activityLog.error("Activity file unreadable, starting fresh: {}", causeOf(error));
         return std::nullopt;
@@ -102,23 +129,29 @@ std::optional<std::vector<ActivityEntry>> ActivityStore::entriesOnDisk() const {
 /// answers false.
 bool ActivityStore::merge(const Change& change) {
     try {
-        std::vector<ActivityEntry> merged;
-        file_.update([&] {
+        std::vector<StoredEntry> merged;
+        file_.updateText([&] {
             auto onDisk = entriesOnDisk();
             if (!onDisk) file_.moveAside();
-            merged = onDisk ? std::move(*onDisk) : std::vector<ActivityEntry>();
+            merged = onDisk ? std::move(*onDisk) : std::vector<StoredEntry>();
             change(merged);
-            return encodeJson(merged);
+            return logParts(merged);
         });
-        entries_ = std::move(merged);
+        hold(std::move(merged));
         changed();
         return true;
     } catch (const std::exception& error) {
         activityLog.error("Couldn't save activity: {}", causeOf(error));
-        change(entries_);
+        change(stored_);
+        entries_.reset();
         changed();
         return false;
     }
+}
+
+void ActivityStore::hold(std::vector<StoredEntry> stored) {
+    stored_ = std::move(stored);
+    entries_.reset();
 }
 
 void ActivityStore::changed() const {

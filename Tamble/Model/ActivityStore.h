@@ -2,6 +2,7 @@
 
 #include <Tamble/Model/ActivityEntry.h>
 #include <Tamble/Model/SharedFile.h>
+#include <Tamble/Model/StoredEntry.h>
 
 #include <TambleCore/Jobs/JobEngine.h>
 
@@ -18,14 +19,17 @@ class ActivityStore {
     explicit ActivityStore(JobEngine engine, std::filesystem::path fileURL = defaultFile());
 
     static std::filesystem::path defaultFile();
+    /// Of more entries, or more bytes of JSON, the oldest are forgotten; the newest entry always stays.
     static constexpr std::size_t maximumEntries = 1000;
+    static constexpr std::size_t maximumBytes = std::size_t{64} << 20U;
 
-    /// Reads the file. One that cannot be read or decoded counts as empty, and is moved aside by the next
+    /// Reads the file. One that cannot be read or is no list counts as empty, and is moved aside by the next
     /// change.
     void load();
 
-    /// The newest first.
-    const std::vector<ActivityEntry>& entries() const noexcept { return entries_; }
+    /// The newest first. Decodes them when it is first called after a change; an entry that cannot be decoded is
+    /// left out, here but not in the file.
+    const std::vector<ActivityEntry>& entries() const;
     const ActivityEntry* entry(const std::string& id) const;
 
     /// Answers whether the entry is on disk; in memory it is in any case.
@@ -44,15 +48,18 @@ class ActivityStore {
     std::function<void()> onChange;
 
   private:
-    using Change = std::function<void(std::vector<ActivityEntry>&)>;
-    std::optional<std::vector<ActivityEntry>> entriesOnDisk() const;
+    using Change = std::function<void(std::vector<StoredEntry>&)>;
+    std::optional<std::vector<StoredEntry>> entriesOnDisk() const;
     bool merge(const Change& change);
-    UndoReport takeBack(const ActivityEntry& entry);
+    UndoReport takeBack(ActivityEntry entry);
+    void hold(std::vector<StoredEntry> stored);
     void changed() const;
 
     JobEngine engine_;
     SharedFile file_;
-    std::vector<ActivityEntry> entries_;
+    std::vector<StoredEntry> stored_;
+    /// `stored_` decoded, once that was asked for.
+    mutable std::optional<std::vector<ActivityEntry>> entries_;
     std::set<std::string> undoingIDs_;
     std::set<std::string> undoneIDs_;
 };

@@ -15,15 +15,28 @@ std::filesystem::path with(std::filesystem::path path, std::string_view ending) 
 
 }  // namespace
 
-std::optional<Json> SharedFile::read() const {
+std::optional<std::string> SharedFile::readText() const {
     if (!std::filesystem::exists(path_)) return std::nullopt;
-    return parseJson(readWholeFile(path_));
+    return readWholeFile(path_);
+}
+
+std::optional<Json> SharedFile::read() const {
+    const auto text = readText();
+    return text ? std::optional(parseJson(*text)) : std::nullopt;
 }
 
 void SharedFile::update(const std::function<Json()>& change) const {
+    std::string text;
+    updateText([&] {
+        text = writeJson(change());
+        return std::vector<std::string_view>{text};
+    });
+}
+
+void SharedFile::updateText(const std::function<std::vector<std::string_view>()>& change) const {
     std::filesystem::create_directories(path_.parent_path());
     const FileLock lock = FileLock::waitFor(lockFile("change"));
-    writeFileAtomically(path_, writeJson(change()));
+    writeFileAtomically(path_, change());
 }
 
 void SharedFile::moveAside() const {

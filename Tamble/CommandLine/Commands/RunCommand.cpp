@@ -105,9 +105,7 @@ bool leftAnything(const JobResult& result) {
 
 /// Whether the job is in the log for good.
 bool remember(ActivityEntry entry) {
-    ActivityStore store(systemEngine());
-    store.load();
-    return store.add(std::move(entry));
+    return ActivityStore(systemEngine()).add(std::move(entry));
 }
 
 /// A signal is answered until the job is remembered: what was saved must be possible to undo.

@@ -19,7 +19,7 @@ namespace {
 using namespace std::chrono_literals;
 
 void append(std::ofstream& output, const InputFile& file) {
-    output << std::ifstream(file.url, std::ios::binary).rdbuf();
+    output << std::ifstream(file.url.c_str(), std::ios::binary).rdbuf();
 }
 
 void say(std::string_view bytes) {

@@ -20,7 +20,7 @@ struct FoundFiles {
         std::optional<ContentType> contentType;
     };
     std::filesystem::path folder;
-    std::filesystem::path root;
+    FilePath root;
     std::string relativeFolder;
     std::shared_ptr<const DirectoryListing> listing;
     std::vector<File> files;

@@ -66,7 +66,7 @@ void FolderScanner::Builder::visitLooseFile(const std::filesystem::path& url, st
 }
 
 void FolderScanner::Builder::walk(int parent, const char* name, FolderNode& node,
-                                  const std::filesystem::path& root) {
+                                  const FilePath& root) {
     std::error_code error;
     const FileDescriptor folder = openFolder(parent, name, error);
     auto read = folder ? DirectoryListing::read(folder, error) : std::nullopt;
@@ -116,7 +116,7 @@ void FolderScanner::Builder::walk(int parent, const char* name, FolderNode& node
 }
 
 void FolderScanner::Builder::walkSubfolder(int parent, const char* name, FolderNode& parentNode,
-                                           const std::filesystem::path& root) {
+                                           const FilePath& root) {
     FolderNode node{
         .url = parentNode.url / name,
         .name = name,

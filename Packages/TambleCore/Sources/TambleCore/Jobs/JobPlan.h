@@ -10,11 +10,11 @@ namespace tamble {
 /// What saving one output does.
 struct Placement {
     /// Where the output goes; a folder's path ends in "/".
-    std::filesystem::path target;
+    FilePath target;
     /// The original that goes to the Bin because the output takes its place.
-    std::optional<std::filesystem::path> original = {};
+    std::optional<FilePath> original = {};
     /// The file that goes to the Bin because it has the output's name.
-    std::optional<std::filesystem::path> clashing = {};
+    std::optional<FilePath> clashing = {};
 };
 
 /// What would become of one input.

@@ -32,7 +32,7 @@ namespace outcome {
 struct Done {
     static constexpr std::string_view caseName = "done";
     /// Where the output is.
-    std::filesystem::path value;
+    FilePath value;
     std::optional<ItemNote> note = {};
     friend bool operator==(const Done&, const Done&) = default;
 };

@@ -143,7 +143,7 @@ void JobSaver::useNumberInstead(PlannedSave& save) {
     if (journal_ != nullptr) journal_->willSave(save);
 }
 
-outcome::Done JobSaver::placed(std::filesystem::path target, std::optional<ItemNote> note) {
+outcome::Done JobSaver::placed(FilePath target, std::optional<ItemNote> note) {
     const auto fingerprint = FileFingerprint::of(target);
     record_.createdFiles.push_back(target);
     if (fingerprint) record_.createdFingerprints.emplace(fingerprintKey(target), *fingerprint);

@@ -28,7 +28,7 @@ class JobSaver {
     bool keepsForWantOfBin(const std::filesystem::path& item);
     void moveIntoPlace(PlannedSave& save);
     void useNumberInstead(PlannedSave& save);
-    outcome::Done placed(std::filesystem::path target, std::optional<ItemNote> note);
+    outcome::Done placed(FilePath target, std::optional<ItemNote> note);
     bool putBack(std::size_t firstTrashed);
     void tell(const std::function<void(JobJournal&)>& message);
 

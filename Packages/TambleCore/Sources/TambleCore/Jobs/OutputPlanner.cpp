@@ -13,7 +13,7 @@ std::filesystem::path folderInside(const location::Folder& chosen, const InputFi
 
 }  // namespace
 
-const std::filesystem::path& originalOf(const InputFile& file) {
+const FilePath& originalOf(const InputFile& file) {
     return file.originalURL ? *file.originalURL : file.url;
 }
 

@@ -6,7 +6,7 @@
 namespace tamble {
 
 /// The original that a file is or, for an intermediate file, stands for.
-const std::filesystem::path& originalOf(const InputFile& file);
+const FilePath& originalOf(const InputFile& file);
 
 /// Where outputs would go if every name were free.
 struct OutputPlanner {

@@ -6,21 +6,23 @@
 
 namespace tamble {
 
-ProgressTracker::ProgressTracker(int total, ProgressCallback send) : total_(total), send_(std::move(send)) {
+ProgressTracker::ProgressTracker(int total, ProgressCallback send)
+    : isFinished_(static_cast<std::size_t>(total)), total_(total), send_(std::move(send)) {
     const std::scoped_lock guard(lock_);
     sendProcessing(Clock::now());
 }
 
 void ProgressTracker::update(std::size_t index, double fraction) {
     const std::scoped_lock guard(lock_);
-    if (finishedIndices_.contains(index)) return;
+    if (isFinished_.at(index)) return;
     partials_[index] = std::isnan(fraction) ? 0 : std::clamp(fraction, 0.0, 1.0);
     if (const auto now = Clock::now(); now - lastSent_ >= shortestPause) sendProcessing(now);
 }
 
 void ProgressTracker::finish(std::size_t index) {
     const std::scoped_lock guard(lock_);
-    if (!finishedIndices_.insert(index).second) return;
+    if (isFinished_.at(index)) return;
+    isFinished_[index] = true;
     partials_.erase(index);
     ++completed_;
     sendProcessing(Clock::now());

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <mutex>
 #include <unordered_map>
-#include <unordered_set>
+#include <vector>
 
 namespace tamble {
 
@@ -35,7 +35,8 @@ class ProgressTracker {
     std::mutex lock_;
     std::unordered_map<std::size_t, double> partials_;
     int completed_ = 0;
-    std::unordered_set<std::size_t> finishedIndices_;
+    /// By index of the item.
+    std::vector<bool> isFinished_;
     Clock::time_point lastSent_;
     const int total_;
     const ProgressCallback send_;

@@ -7,16 +7,16 @@ namespace tamble {
 
 /// A file that a job moved to the Bin.
 struct TrashedItem {
-    std::filesystem::path original;
-    std::filesystem::path inTrash;
+    FilePath original;
+    FilePath inTrash;
     friend bool operator==(const TrashedItem&, const TrashedItem&) = default;
 };
 BOOST_DESCRIBE_STRUCT(TrashedItem, (), (original, inTrash))
 
 /// A file that a job renamed.
 struct RenamedItem {
-    std::filesystem::path from;
-    std::filesystem::path to;
+    FilePath from;
+    FilePath to;
     friend bool operator==(const RenamedItem&, const RenamedItem&) = default;
 };
 BOOST_DESCRIBE_STRUCT(RenamedItem, (), (from, to))
@@ -37,13 +37,13 @@ BOOST_DESCRIBE_STRUCT(FileFingerprint, (), (size, modified))
 
 /// What a job changed on disk, and so what undo needs.
 struct UndoRecord {
-    std::vector<std::filesystem::path> createdFiles;
+    std::vector<FilePath> createdFiles;
     std::vector<TrashedItem> trashedItems;
     /// By fingerprintKey() of a created file.
     std::map<std::string, FileFingerprint> createdFingerprints;
     std::vector<RenamedItem> renamedItems;
     /// Folders the job made for its outputs, in the order they were made; absent when it made none.
-    std::optional<std::vector<std::filesystem::path>> createdFolders = {};
+    std::optional<std::vector<FilePath>> createdFolders = {};
 
     bool isEmpty() const { return createdFiles.empty() && trashedItems.empty() && renamedItems.empty(); }
 };

@@ -12,10 +12,10 @@
 namespace tamble {
 namespace {
 
-void writeNewFile(const std::filesystem::path& path, std::string_view content) {
+void writeNewFile(const std::filesystem::path& path, std::span<const std::string_view> parts) {
     const FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (!file) throwLastError("cannot write", path);
-    writeAll(file.number(), content, path);
+    for (const auto part : parts) writeAll(file.number(), part, path);
     if (::fsync(file.number()) != 0 && errno != EINVAL) throwLastError("cannot write", path);
 }
 
@@ -36,10 +36,14 @@ void syncFolder(const std::filesystem::path& folder) {
 }
 
 void writeFileAtomically(const std::filesystem::path& file, std::string_view content) {
+    writeFileAtomically(file, {&content, 1});
+}
+
+void writeFileAtomically(const std::filesystem::path& file, std::span<const std::string_view> parts) {
     std::filesystem::create_directories(file.parent_path());
     const std::filesystem::path fresh = file.parent_path() / std::string(".").append(newUUID());
     try {
-        writeNewFile(fresh, content);
+        writeNewFile(fresh, parts);
         std::filesystem::rename(fresh, file);
     } catch (...) {
         ::unlink(fresh.c_str());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,8 @@ namespace tamble {
 /// the new one whole, also after a power cut. Missing folders are made. Throws
 /// std::filesystem::filesystem_error; the old file is then untouched.
 void writeFileAtomically(const std::filesystem::path& file, std::string_view content);
+/// The content is all the parts, one after the other.
+void writeFileAtomically(const std::filesystem::path& file, std::span<const std::string_view> parts);
 
 /// Writes all of it to the open file, which stands at the path. Throws std::filesystem::filesystem_error; a
 /// part may be written then.

@@ -107,7 +107,7 @@ inline InputFile looseFile(const std::filesystem::path& path) {
 inline std::string brief(const ItemOutcome& itemOutcome) {
     if (const auto* done = std::get_if<outcome::Done>(&itemOutcome)) {
         const bool isFolder = namesFolder(done->value);
-        const std::filesystem::path place = isFolder ? done->value.parent_path() : done->value;
+        const std::filesystem::path place = isFolder ? done->value.parent_path() : done->value.path();
         return fmt::format("done {}{}{}{}", place.filename().native(), isFolder ? "/" : "",
                            done->note ? " " : "", done->note ? caseName(*done->note) : "");
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <TambleCore/Support/FilePath.h>
 #include <TambleCore/Support/FileURL.h>
 #include <TambleCore/Support/Json/Described.h>
 #include <TambleCore/Support/Json/Json.h>
@@ -15,6 +16,9 @@
 /// enumerations are their case names, enumerations with a payload are objects with one key, paths are file
 /// URLs.
 namespace tamble {
+
+template <typename T>
+concept PathValue = std::same_as<T, std::filesystem::path> || std::same_as<T, FilePath>;
 
 template <typename T>
 Json encodeJson(const T& value);
@@ -120,7 +124,7 @@ Json encodeJson(const T& value) {
         return value;
     } else if constexpr (std::is_arithmetic_v<T> || std::same_as<T, std::string>) {
         return Json(value);
-    } else if constexpr (std::same_as<T, std::filesystem::path>) {
+    } else if constexpr (PathValue<T>) {
         return Json(fileURL(value));
     } else if constexpr (DescribedEnum<T>) {
         return Json(std::string(caseName(value)));
@@ -166,7 +170,7 @@ T decodeJson(const Json& document) {
     } else if constexpr (std::same_as<T, std::string>) {
         if (!document.is_string()) throw DecodeError("A text was expected.");
         return document.get<std::string>();
-    } else if constexpr (std::same_as<T, std::filesystem::path>) {
+    } else if constexpr (PathValue<T>) {
         auto path =
             document.is_string() ? pathFromFileURL(document.get_ref<const std::string&>()) : std::nullopt;
         if (!path) throw DecodeError("A file URL was expected.");

@@ -1,0 +1,90 @@
+// What the engine itself costs, step by step, as JSON. Usage: tamble-growth INPUT OUTPUT ITEMS-AT-ONCE
+// The activity log is the user's own: give it a home of its own.
+#include <Tamble/Model/ActivityStore.h>
+
+#include <TambleCore/Intake/FolderScanner.h>
+#include <TambleCore/Jobs/CopyThroughProcessor.h>
+#include <TambleCore/Jobs/JobEngine.h>
+#include <TambleCore/Platform/SystemFileOperations.h>
+
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+
+#include <sys/resource.h>
+
+namespace {
+
+using namespace tamble;
+
+class OneNameForAll final : public FileProcessor {
+  public:
+    std::string fileExtension() const override { return "jpg"; }
+    std::string outputName(const InputFile&) const override { return "same.jpg"; }
+    std::optional<SkipReason> skipReason(const InputFile&) const override { return std::nullopt; }
+    void process(const InputFile&, const std::filesystem::path&, const WorkContext&) const override {}
+    bool canReplaceOriginals() const override { return false; }
+};
+
+std::int64_t peakBytes() {
+    struct rusage usage {};
+    ::getrusage(RUSAGE_SELF, &usage);
+    return std::int64_t{usage.ru_maxrss} * 1024;
+}
+
+/// Seconds of each step, and the most memory that the program has had by its end.
+class Report {
+  public:
+    template <typename Step>
+    auto measure(const char* name, const Step& step) {
+        const auto start = std::chrono::steady_clock::now();
+        auto result = step();
+        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+        report_[name] = Json{{"seconds", taken.count()}, {"peakBytes", peakBytes()}};
+        return result;
+    }
+    void print() const { std::printf("%s\n", writeJson(report_).c_str()); }
+
+  private:
+    Json report_ = Json::object();
+};
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    if (argc != 4) {
+        std::fputs("Usage: tamble-growth INPUT OUTPUT ITEMS-AT-ONCE\n", stderr);
+        return 2;
+    }
+    const std::array input{std::filesystem::absolute(argv[1])};
+    const std::filesystem::path output = std::filesystem::absolute(argv[2]);
+    const JobEngine engine{std::make_shared<SystemFileOperations>()};
+    ScanOptions options(true);
+    options.accepts = [](const std::optional<ContentType>&) { return true; };
+    Report report;
+
+    ScanResult scanned = report.measure("scan", [&] { return FolderScanner{options}.scan(input); });
+    const std::size_t count = scanned.files.size();
+    const JobConfiguration job{.location = location::Folder{.value = output, .keepStructure = true},
+                               .maxConcurrent = std::atoi(argv[3])};
+    JobResult result = report.measure("copy-through job", [&] {
+        return engine.run(std::move(scanned.files), CopyThroughProcessor{}, job);
+    });
+    ActivityStore store(engine);
+    const std::string id = report.measure("activity entry", [&] {
+        ActivityEntry entry = activityEntry("image.convert", result);
+        std::string ofEntry = entry.id;
+        store.add(std::move(entry));
+        return ofEntry;
+    });
+    const auto undone = report.measure("undo", [&] { return store.undo(id); });
+
+    std::vector<InputFile> files;
+    for (ItemResult& item : result.items) files.push_back(std::move(item.file));
+    const JobConfiguration flat{.location = location::Folder{.value = output, .keepStructure = false}};
+    const auto plan = report.measure("plan, one name for all", [&] { return engine.plan(files, OneNameForAll{}, flat); });
+    report.print();
+    const auto all = static_cast<int>(count);
+    return undone && *undone == UndoReport{.removedOutputs = all} && plan.items.size() == count ? 0 : 1;
+}
