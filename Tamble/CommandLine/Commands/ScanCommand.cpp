@@ -12,7 +12,7 @@
 #include <TambleCore/Intake/FileTypes.h>
 #include <TambleCore/Intake/KindCounts.h>
 #include <TambleCore/Intake/MediaTypes.h>
-#include <TambleCore/Support/Json/JsonCoding.h>
+#include <TambleCore/Support/Json/JsonText.h>
 #include <TambleCore/Support/Wording.h>
 
 #include <array>
@@ -28,11 +28,10 @@ bool isOfKnownKind(const std::optional<ContentType>& type) {
            FileTypes::isPDF(type) || FileTypes::isDocument(type) || FileTypes::isSubtitle(type);
 }
 
-Json scanJson(const ScanResult& scan) {
+/// All but the files.
+Json summaryJson(const ScanResult& scan) {
     const KindCounts kinds = KindCounts::of(scan.files);
     Json json = Json::object();
-    Json& files = json["files"] = Json::array();
-    for (const auto& file : scan.files) files.push_back(inputFileJson(file));
     json["roots"] = encodeJson(scan.roots);
     json.update(scanCountsJson(scan));
     json["kinds"] = encodeJson(kinds);
@@ -40,6 +39,17 @@ Json scanJson(const ScanResult& scan) {
     Json& tools = json["suggestedTools"] = Json::array();
     for (const auto& tool : suggestedTools(kinds)) tools.push_back(tool.id);
     return json;
+}
+
+/// A line for each file, written without a document of them all, which would take most of the scan's time.
+std::string scanJson(const ScanResult& scan) {
+    std::string text = "{\n  \"files\": [";
+    for (const auto& file : scan.files) {
+        text += text.ends_with('[') ? "\n    " : ",\n    ";
+        appendJson(text, fieldsOf(file));
+    }
+    text += scan.files.empty() ? "],\n" : "\n  ],\n";
+    return text += writeIndentedJson(summaryJson(scan)).substr(std::string_view("{\n").size());
 }
 
 struct TreeLine {
@@ -118,7 +128,7 @@ ExitStatus scanPaths(const CommandDescription& command, const ParsedArguments& a
     options.accepts = isOfKnownKind;
     const ScanResult scan = FolderScanner{options}.scan(paths);
     if (arguments.has("json")) {
-        printOutput(writeIndentedJson(scanJson(scan)) + '\n');
+        printOutput(scanJson(scan) + '\n');
     } else {
         printOutput(scanText(scan, Terminal::output()));
         for (const auto& note : scanNotes(scan)) printError(note + '\n');

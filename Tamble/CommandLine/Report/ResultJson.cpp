@@ -23,21 +23,20 @@ Json planned(const outcome::Failed& failed) {
 
 Json itemJson(const InputFile& file, Json outcome) {
     Json item = Json::object();
-    item["file"] = inputFileJson(file);
+    item["file"] = encodeJson(fieldsOf(file));
     item["outcome"] = std::move(outcome);
     return item;
 }
 
 }  // namespace
 
-Json inputFileJson(const InputFile& file) {
-    Json json = Json::object();
-    json["url"] = encodeJson(file.url);
-    json["root"] = encodeJson(file.root);
-    json["relativeFolder"] = file.relativeFolder;
-    json["byteSize"] = file.byteSize;
-    if (file.contentType) json["contentType"] = std::string(file.contentType->identifier());
-    return json;
+FileFields fieldsOf(const InputFile& file) {
+    FileFields fields{.url = file.url,
+                      .root = file.root,
+                      .relativeFolder = file.relativeFolder,
+                      .byteSize = file.byteSize};
+    if (file.contentType) fields.contentType = file.contentType->identifier();
+    return fields;
 }
 
 Json scanCountsJson(const ScanResult& scan) {

@@ -18,6 +18,7 @@ bool isPackage(std::string_view folderName) {
 }  // namespace
 
 void FolderScanner::Builder::visit(const std::filesystem::path& url) {
+    if (stop_.stop_requested()) return;
     const auto item = standardized(url);
     const auto properties = itemProperties(AT_FDCWD, item.c_str());
     switch (properties.kind) {
@@ -81,6 +82,7 @@ void FolderScanner::Builder::walk(int parent, const char* name, FolderNode& node
     std::vector<std::string_view> subfolders;
     Names* const taken = mayRepeat(node, *listing) ? &takenFrom(node.url) : nullptr;
     for (const std::size_t index : order_.sorted(listing->names())) {
+        if (stop_.stop_requested()) return;
         const auto item = listing->name(index);
         switch (listing->kind(index)) {
             case ItemKind::unreadable:
@@ -112,7 +114,10 @@ void FolderScanner::Builder::walk(int parent, const char* name, FolderNode& node
         if (!subfolders.empty()) intakeLog.notice("Stopped at max depth in {}", privately(node.url));
         return;
     }
-    for (const auto subfolder : subfolders) walkSubfolder(folder.number(), subfolder.data(), node, root);
+    for (const auto subfolder : subfolders) {
+        if (stop_.stop_requested()) return;
+        walkSubfolder(folder.number(), subfolder.data(), node, root);
+    }
 }
 
 void FolderScanner::Builder::walkSubfolder(int parent, const char* name, FolderNode& parentNode,

@@ -16,8 +16,8 @@ namespace tamble {
 class FolderScanner::Builder {
   public:
     /// `dropCount` items will be visited; their files go to `files`.
-    Builder(const ScanOptions& options, std::size_t dropCount, InputFileMaker& files)
-        : options_(options), dropCount_(dropCount), files_(files) {}
+    Builder(const ScanOptions& options, std::size_t dropCount, InputFileMaker& files, std::stop_token stop)
+        : options_(options), dropCount_(dropCount), files_(files), stop_(std::move(stop)) {}
 
     void visit(const std::filesystem::path& url);
     /// All that was gathered but the files.
@@ -59,6 +59,7 @@ class FolderScanner::Builder {
     const ScanOptions& options_;
     std::size_t dropCount_;
     InputFileMaker& files_;
+    std::stop_token stop_;
     ScanResult result_;
     FinderOrder order_;
     MapByText<Verdict> verdicts_;

@@ -39,6 +39,8 @@ struct ScanResult {
     /// Dropped folders that could not be listed or in which nothing was found, neither taken nor skipped.
     int emptyFolderCount = 0;
     std::int64_t totalBytes = 0;
+    /// Whether it was asked to stop, and so may be a part only.
+    bool wasCancelled = false;
 };
 
 /// What people are told after a drop about items that were left out; empty when nothing was.

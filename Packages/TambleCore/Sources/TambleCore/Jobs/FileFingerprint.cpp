@@ -49,8 +49,8 @@ bool operator==(const FileFingerprint& a, const FileFingerprint& b) {
     return a.size == b.size && std::abs(a.modified - b.modified) < 0.001;
 }
 
-std::string fingerprintKey(const std::filesystem::path& path) {
-    return printable(path.native()) == path.native() ? path.native() : fileURL(path);
+FilePath fingerprintKey(const FilePath& path) {
+    return printable(path.native()) == path.native() ? path : fileURL(path);
 }
 
 }  // namespace tamble

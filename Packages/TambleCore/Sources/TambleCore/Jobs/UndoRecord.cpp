@@ -45,7 +45,7 @@ class Undo {
     void removeOutputs() {
         std::unordered_map<std::string, FileFingerprint> expected;
         for (const auto& [key, fingerprint] : record_.createdFingerprints) {
-            expected.emplace(pathKey(pathFromFileURL(key).value_or(key)), fingerprint);
+            expected.emplace(pathKey(pathFromFileURL(key.native()).value_or(key)), fingerprint);
         }
         for (const auto& output : record_.createdFiles) {
             const auto current = FileFingerprint::of(output);

@@ -40,7 +40,7 @@ struct UndoRecord {
     std::vector<FilePath> createdFiles;
     std::vector<TrashedItem> trashedItems;
     /// By fingerprintKey() of a created file.
-    std::map<std::string, FileFingerprint> createdFingerprints;
+    std::map<FilePath, FileFingerprint> createdFingerprints;
     std::vector<RenamedItem> renamedItems;
     /// Folders the job made for its outputs, in the order they were made; absent when it made none.
     std::optional<std::vector<FilePath>> createdFolders = {};
@@ -72,6 +72,6 @@ UndoReport apply(const UndoRecord& record, FileOperations& fileOps);
 UndoReport resume(UndoRecord record, FileOperations& fileOps);
 
 /// The path itself, or its file URL when its bytes are not UTF-8 and so cannot be a JSON key.
-std::string fingerprintKey(const std::filesystem::path& path);
+FilePath fingerprintKey(const FilePath& path);
 
 }  // namespace tamble

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <concepts>
 #include <filesystem>
 #include <memory>
@@ -37,6 +38,9 @@ class FilePath {
         return a.native() == b.native();
     }
     friend bool operator==(const FilePath& a, const char* b) { return a.native() == b; }
+    friend std::strong_ordering operator<=>(const FilePath& a, const FilePath& b) {
+        return a.native() <=> b.native();
+    }
 
   private:
     /// Null for the empty path.

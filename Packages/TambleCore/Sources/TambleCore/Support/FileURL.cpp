@@ -14,6 +14,12 @@ bool isUnreserved(char c) {
            std::string_view("-._~/").find(c) != std::string_view::npos;
 }
 
+/// Surely the same when standardized; taking a path apart costs more than all the rest.
+bool isPlainAbsolute(std::string_view path) {
+    return path.starts_with('/') && path.find("//") == std::string_view::npos &&
+           path.find("/.") == std::string_view::npos;
+}
+
 }  // namespace
 
 std::string percentEncoded(std::string_view bytes) {
@@ -49,10 +55,13 @@ std::optional<std::string> percentDecoded(std::string_view text) {
     return result;
 }
 
-std::string fileURL(const std::filesystem::path& path) {
+std::string fileURL(const FilePath& path) {
+    std::string url(scheme);
+    const std::string& bytes = path.native();
+    if (isPlainAbsolute(bytes)) return url += percentEncoded(bytes);
     std::string absolute = standardized(path).native();
-    if (namesFolder(path) && absolute != "/") absolute += '/';
-    return std::string(scheme) + percentEncoded(absolute);
+    if (bytes.ends_with('/') && absolute != "/") absolute += '/';
+    return url += percentEncoded(absolute);
 }
 
 std::optional<std::filesystem::path> pathFromFileURL(std::string_view url) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <TambleCore/Support/FilePath.h>
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -9,7 +11,7 @@ namespace tamble {
 
 /// The path as a file URL (RFC 8089), every byte outside the unreserved set percent-encoded: file names are
 /// bytes, and this is the one form in which they go through JSON unharmed.
-std::string fileURL(const std::filesystem::path& path);
+std::string fileURL(const FilePath& path);
 
 /// Empty when the text is not a file URL of this machine or is wrongly encoded.
 std::optional<std::filesystem::path> pathFromFileURL(std::string_view url);

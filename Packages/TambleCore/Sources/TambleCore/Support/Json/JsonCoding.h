@@ -37,6 +37,16 @@ template <typename T>
 struct IsStringMap : std::false_type {};
 template <typename T>
 struct IsStringMap<std::map<std::string, T>> : std::true_type {};
+/// Paths as they are, not as file URLs.
+template <typename T>
+struct IsStringMap<std::map<FilePath, T>> : std::true_type {};
+
+inline const std::string& memberName(const std::string& key) {
+    return key;
+}
+inline const std::string& memberName(const FilePath& key) {
+    return key.native();
+}
 
 inline std::string listed(const std::vector<std::string>& words) {
     std::string text;
@@ -147,7 +157,7 @@ Json encodeJson(const T& value) {
         // Appended, not looked up: an ordered object searches linearly.
         Json object = Json::object();
         auto& members = object.get_ref<Json::object_t&>();
-        for (const auto& [key, element] : value) members.push_back({key, encodeJson(element)});
+        for (const auto& [key, element] : value) members.push_back({detail::memberName(key), encodeJson(element)});
         return object;
     } else {
         static_assert(DescribedRecord<T>, "describe the record with BOOST_DESCRIBE_STRUCT");

@@ -2,6 +2,8 @@
 
 #include <TambleCore/Support/Json/JsonCoding.h>
 
+#include <fmt/format.h>
+
 namespace tamble {
 
 /// Appends what writeJson(encodeJson(value)) answers, without a document in between: for records that hold many.
@@ -13,6 +15,8 @@ void appendJson(std::string& text, const T& value) {
     if constexpr (PathValue<T>) {
         // Percent-encoded, so that nothing in it needs escaping.
         text.append(1, '"').append(fileURL(value)).append(1, '"');
+    } else if constexpr (std::integral<T> && !std::same_as<T, bool>) {
+        fmt::format_to(std::back_inserter(text), "{}", value);
     } else if constexpr (detail::IsVector<T>::value) {
         text += '[';
         for (const auto& element : value) {
@@ -24,7 +28,7 @@ void appendJson(std::string& text, const T& value) {
         text += '{';
         for (const auto& [key, element] : value) {
             separate();
-            text.append(writeJson(Json(key))).append(1, ':');
+            text.append(writeJson(Json(detail::memberName(key)))).append(1, ':');
             appendJson(text, element);
         }
         text += '}';
