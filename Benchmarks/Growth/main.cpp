@@ -83,7 +83,8 @@ int main(int argc, char* argv[]) {
     std::vector<InputFile> files;
     for (ItemResult& item : result.items) files.push_back(std::move(item.file));
     const JobConfiguration flat{.location = location::Folder{.value = output, .keepStructure = false}};
-    const auto plan = report.measure("plan, one name for all", [&] { return engine.plan(files, OneNameForAll{}, flat); });
+    const auto plan =
+        report.measure("plan, one name for all", [&] { return engine.plan(files, OneNameForAll{}, flat); });
     report.print();
     const auto all = static_cast<int>(count);
     return undone && *undone == UndoReport{.removedOutputs = all} && plan.items.size() == count ? 0 : 1;

@@ -27,8 +27,8 @@ class ActivityStore {
     /// change.
     void load();
 
-    /// The newest first. Decodes them when it is first called after a change; an entry that cannot be decoded is
-    /// left out, here but not in the file.
+    /// The newest first. Decodes them when it is first called after a change; an entry that cannot be decoded
+    /// is left out, here but not in the file.
     const std::vector<ActivityEntry>& entries() const;
     const ActivityEntry* entry(const std::string& id) const;
 

@@ -6,8 +6,8 @@
 
 namespace tamble {
 
-/// An entry as its JSON text: the log is read and written without looking into the entries, of which one may tell
-/// of a hundred thousand files.
+/// An entry as its JSON text: the log is read and written without looking into the entries, of which one may
+/// tell of a hundred thousand files.
 class StoredEntry {
   public:
     explicit StoredEntry(const ActivityEntry& entry);

@@ -31,10 +31,8 @@ Json itemJson(const InputFile& file, Json outcome) {
 }  // namespace
 
 FileFields fieldsOf(const InputFile& file) {
-    FileFields fields{.url = file.url,
-                      .root = file.root,
-                      .relativeFolder = file.relativeFolder,
-                      .byteSize = file.byteSize};
+    FileFields fields{
+        .url = file.url, .root = file.root, .relativeFolder = file.relativeFolder, .byteSize = file.byteSize};
     if (file.contentType) fields.contentType = file.contentType->identifier();
     return fields;
 }

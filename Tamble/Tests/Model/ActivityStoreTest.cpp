@@ -90,7 +90,7 @@ TEST_F(Activity, KeepsTheNewestEntriesFirst) {
 
 TEST_F(Activity, AnUnreadableFileIsMovedAsideNotLost) {
     std::filesystem::create_directories(file().parent_path());
-    for (const char* content : {"{]", "[{\"id\": 7}]"}) {
+    for (const char* content : {"{]", "[{\"id\": 7}"}) {
         std::ofstream(file()) << content;
         const LogCapture log;
         ActivityStore fresh = store();
@@ -103,6 +103,29 @@ TEST_F(Activity, AnUnreadableFileIsMovedAsideNotLost) {
     }
     EXPECT_EQ(contentOf(path(file()) += ".unreadable"), "{]");
     EXPECT_THAT(namesIn(file().parent_path()), testing::HasSubstr("activity.json.unreadable-"));
+}
+
+TEST_F(Activity, AnEntryThatCannotBeDecodedCostsOnlyItself) {
+    const std::string unknown = R"({"id":"of a later version", "date": 7})";
+    std::filesystem::create_directories(file().parent_path());
+    std::ofstream(file()) << "[" << unknown << "]";
+    ActivityStore log = store();
+    log.add(finishedJob());
+    ASSERT_EQ(log.entries().size(), 1U);
+    EXPECT_EQ(log.undo("of a later version"), std::nullopt);
+    EXPECT_EQ(log.undo(log.entries().front().id), (UndoReport{.removedOutputs = 1}));
+    EXPECT_THAT(contentOf(file()), testing::HasSubstr(unknown));
+}
+
+TEST_F(Activity, ForgetsTheOldestWhenTheLogGrowsTooLarge) {
+    const std::string large(ActivityStore::maximumBytes / 2, 'x');
+    ActivityStore log = store();
+    for (const char* number : {"1", "2", "3"}) log.add(entry(number + large));
+    ASSERT_EQ(log.entries().size(), 1U);
+    log.add(entry("small"));
+    EXPECT_EQ(log.entries().size(), 2U);
+    log.add(entry(large + large));
+    EXPECT_EQ(log.entries().size(), 1U) << "the newest stays, whatever its size";
 }
 
 TEST_F(Activity, AFailedSaveChangesNothingInMemory) {

@@ -19,8 +19,7 @@ struct CloseAtEnd {
 ScanOptions::ScanOptions(bool entersSubfolders)
     : includeSubfolders(entersSubfolders), accepts(FileTypes::isReadableImage) {}
 
-ScanResult FolderScanner::scan(std::span<const std::filesystem::path> urls,
-                               std::stop_token stop) const {
+ScanResult FolderScanner::scan(std::span<const std::filesystem::path> urls, std::stop_token stop) const {
     InputFileMaker maker;
     // The reading is the part to move: memory in large amounts is cheaper to get on the calling thread.
     auto reading = std::async(std::launch::async, [this, urls, &maker, stop] {

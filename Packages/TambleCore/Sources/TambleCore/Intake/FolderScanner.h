@@ -25,8 +25,8 @@ struct ScanOptions {
 struct FolderScanner {
     ScanOptions options;
 
-    /// Never fails as a whole: what cannot be read is counted. Blocks; call it off the main thread. A stop request
-    /// ends it soon, with what was found by then.
+    /// Never fails as a whole: what cannot be read is counted. Blocks; call it off the main thread. A stop
+    /// request ends it soon, with what was found by then.
     ScanResult scan(std::span<const std::filesystem::path> urls, std::stop_token stop = {}) const;
 
   private:

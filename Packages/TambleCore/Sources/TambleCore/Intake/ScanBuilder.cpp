@@ -66,8 +66,7 @@ void FolderScanner::Builder::visitLooseFile(const std::filesystem::path& url, st
     ++result_.looseFileCount;
 }
 
-void FolderScanner::Builder::walk(int parent, const char* name, FolderNode& node,
-                                  const FilePath& root) {
+void FolderScanner::Builder::walk(int parent, const char* name, FolderNode& node, const FilePath& root) {
     std::error_code error;
     const FileDescriptor folder = openFolder(parent, name, error);
     auto read = folder ? DirectoryListing::read(folder, error) : std::nullopt;

@@ -42,8 +42,7 @@ class FolderScanner::Builder {
     /// Walks the folder that `node` tells of, `name` in the open folder `parent`, and gives the node its
     /// counts and children.
     void walk(int parent, const char* name, FolderNode& node, const FilePath& root);
-    void walkSubfolder(int parent, const char* name, FolderNode& parentNode,
-                       const FilePath& root);
+    void walkSubfolder(int parent, const char* name, FolderNode& parentNode, const FilePath& root);
     /// Adds the file to `found` if it is wanted and new; `taken` may be null where no file can repeat
     /// another.
     void takeFile(int parent, std::string_view name, FoundFiles& found, Names* taken);

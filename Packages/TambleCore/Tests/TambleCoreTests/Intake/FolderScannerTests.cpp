@@ -35,6 +35,22 @@ class WithoutPrivileges {
     bool isSuperuser_ = ::geteuid() == 0;
 };
 
+TEST(FolderScanner, aStopRequestEndsItSoon) {
+    const TemporaryFolder folder;
+    for (const char* name : {"a/1.jpg", "b/1.png", "c/1.webp"}) folder.file(name);
+    std::stop_source stop;
+    ScanOptions options(true);
+    options.accepts = [&](const std::optional<ContentType>& type) {
+        stop.request_stop();
+        return type.has_value();
+    };
+    const std::vector urls{folder.path()};
+    const auto stopped = FolderScanner{options}.scan(urls, stop.get_token());
+    EXPECT_TRUE(stopped.wasCancelled);
+    EXPECT_THAT(names(stopped), ElementsAre("1.jpg"));
+    EXPECT_FALSE(FolderScanner{options}.scan(urls).wasCancelled);
+}
+
 TEST(FolderScanner, filesStandInFinderOrderAndBeforeThoseOfSubfolders) {
     const TemporaryFolder folder;
     folder.file("A/1.jpg", "12345");

@@ -1,8 +1,24 @@
+#include <TambleCore/Support/FilePath.h>
 #include <TambleCore/Support/FileURL.h>
 #include <TambleCore/Support/PathKey.h>
 
 namespace tamble {
 namespace {
+
+TEST(FilePath, isThePathItWasMadeFrom) {
+    const std::filesystem::path path("/a/b.tar.gz");
+    const FilePath kept(path);
+    EXPECT_EQ(kept, path);
+    EXPECT_EQ(std::filesystem::path(kept), path);
+    EXPECT_EQ(kept, FilePath("/a/b.tar.gz"));
+    EXPECT_NE(kept, FilePath("/a/b.tar"));
+    EXPECT_EQ(kept.stem(), "b.tar");
+    const FilePath copy = kept;
+    EXPECT_EQ(&copy.native(), &kept.native()) << "copies share the bytes";
+    EXPECT_TRUE(FilePath().empty());
+    EXPECT_EQ(FilePath().native(), "");
+    EXPECT_EQ(FilePath(""), FilePath());
+}
 
 TEST(PathKey, oneFileHasOneKeyHoweverItIsNamed) {
     EXPECT_EQ(standardized("/a/./b/../c//"), "/a/c");

@@ -5,8 +5,8 @@
 namespace tamble {
 namespace {
 
-/// Builds the document from what the library reads. Its own builder looks through an object's members for each
-/// new one, which takes hours for an object of a million.
+/// Builds the document from what the library reads. Its own builder looks through an object's members for
+/// each new one, which takes hours for an object of a million.
 class Builder : public nlohmann::json_sax<Json> {
   public:
     Json document;

@@ -157,7 +157,8 @@ Json encodeJson(const T& value) {
         // Appended, not looked up: an ordered object searches linearly.
         Json object = Json::object();
         auto& members = object.get_ref<Json::object_t&>();
-        for (const auto& [key, element] : value) members.push_back({detail::memberName(key), encodeJson(element)});
+        for (const auto& [key, element] : value)
+            members.push_back({detail::memberName(key), encodeJson(element)});
         return object;
     } else {
         static_assert(DescribedRecord<T>, "describe the record with BOOST_DESCRIBE_STRUCT");

@@ -6,7 +6,8 @@
 
 namespace tamble {
 
-/// Appends what writeJson(encodeJson(value)) answers, without a document in between: for records that hold many.
+/// Appends what writeJson(encodeJson(value)) answers, without a document in between: for records that hold
+/// many.
 template <typename T>
 void appendJson(std::string& text, const T& value) {
     [[maybe_unused]] auto separate = [&text, isFirst = true]() mutable {
