@@ -1,10 +1,12 @@
 // What the engine itself costs, step by step, as JSON. Usage: tamble-growth INPUT OUTPUT ITEMS-AT-ONCE
 // The activity log is the user's own: give it a home of its own.
 #include <Tamble/Model/ActivityStore.h>
+#include <Tamble/Model/JobRecovery.h>
 
 #include <TambleCore/Intake/FolderScanner.h>
 #include <TambleCore/Jobs/CopyThroughProcessor.h>
 #include <TambleCore/Jobs/JobEngine.h>
+#include <TambleCore/Jobs/Journal/JournalFile.h>
 #include <TambleCore/Platform/SystemFileOperations.h>
 
 #include <array>
@@ -66,19 +68,17 @@ int main(int argc, char* argv[]) {
 
     ScanResult scanned = report.measure("scan", [&] { return FolderScanner{options}.scan(input); });
     const std::size_t count = scanned.files.size();
-    const JobConfiguration job{.location = location::Folder{.value = output, .keepStructure = true},
-                               .maxConcurrent = std::atoi(argv[3])};
+    const JobConfiguration configuration{.location = location::Folder{.value = output, .keepStructure = true},
+                                         .maxConcurrent = std::atoi(argv[3])};
+    const journal::Job job = startedJob("image.convert", scanned.files);
     JobResult result = report.measure("copy-through job", [&] {
-        return engine.run(std::move(scanned.files), CopyThroughProcessor{}, job);
+        const JobEngine watched{engine.fileOps, std::make_shared<JournalFile>(journalFolder(), job)};
+        return watched.run(std::move(scanned.files), CopyThroughProcessor{}, configuration);
     });
     ActivityStore store(engine);
-    const std::string id = report.measure("activity entry", [&] {
-        ActivityEntry entry = activityEntry("image.convert", result);
-        std::string ofEntry = entry.id;
-        store.add(std::move(entry));
-        return ofEntry;
-    });
-    const auto undone = report.measure("undo", [&] { return store.undo(id); });
+    const bool isRemembered =
+        report.measure("activity entry", [&] { return store.add(activityEntry(job, result)); });
+    const auto undone = report.measure("undo", [&] { return store.undo(job.id); });
 
     std::vector<InputFile> files;
     for (ItemResult& item : result.items) files.push_back(std::move(item.file));
@@ -87,5 +87,8 @@ int main(int argc, char* argv[]) {
         report.measure("plan, one name for all", [&] { return engine.plan(files, OneNameForAll{}, flat); });
     report.print();
     const auto all = static_cast<int>(count);
-    return undone && *undone == UndoReport{.removedOutputs = all} && plan.items.size() == count ? 0 : 1;
+    return isRemembered && undone && *undone == UndoReport{.removedOutputs = all} &&
+                   plan.items.size() == count
+               ? 0
+               : 1;
 }
