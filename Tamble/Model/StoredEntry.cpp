@@ -3,9 +3,6 @@
 #include <TambleCore/Support/Json/JsonElements.h>
 #include <TambleCore/Support/Json/JsonText.h>
 
-#include <algorithm>
-#include <functional>
-
 #include <fmt/format.h>
 
 namespace tamble {
@@ -25,10 +22,8 @@ std::vector<StoredEntry> StoredEntry::all(std::string log) {
 }
 
 bool StoredEntry::hasID(std::string_view id) const {
-    // As they are written here; anything else is decoded, but only what may be the one.
-    if (json_.starts_with(fmt::format(R"({{"id":"{}",)", id))) return true;
-    const std::boyer_moore_horspool_searcher searcher(id.begin(), id.end());
-    if (std::search(json_.begin(), json_.end(), searcher) == json_.end()) return false;
+    // As entries are written here; any other is decoded.
+    if (json_.starts_with(R"({"id":")")) return json_.starts_with(fmt::format(R"({{"id":"{}")", id));
     try {
         return decoded().id == id;
     } catch (const DecodeError&) {
