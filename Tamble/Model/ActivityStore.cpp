@@ -68,7 +68,7 @@ bool ActivityStore::add(ActivityEntry entry) {
     });
 }
 
-std::optional<UndoReport> ActivityStore::undo(const std::string& id) {
+std::optional<UndoReport> ActivityStore::undo(std::string id) {
     if (!undoingIDs_.insert(id).second) return std::nullopt;
     changed();
     std::optional<UndoReport> report;

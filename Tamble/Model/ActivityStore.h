@@ -36,7 +36,7 @@ class ActivityStore {
     bool add(ActivityEntry entry);
     /// Takes the job back and waits until it is. Nothing when there is no such entry, or it is undone, or
     /// being undone.
-    std::optional<UndoReport> undo(const std::string& id);
+    std::optional<UndoReport> undo(std::string id);
     /// Forgets all entries; the files of the jobs stay as they are.
     void clear();
 
