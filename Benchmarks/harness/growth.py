@@ -36,7 +36,7 @@ def table(program: Path, small: tuple, large: tuple, runs: int, work: Path) -> s
     lines = [
         "### ten times the files (`growth`)",
         "",
-        f"| step | a file of {counts[0]:,} | a file of {counts[1]:,} | ratio | peak memory | memory for each more file |",
+        f"| step | a file of {counts[0]:,} | a file of {counts[1]:,} | ratio | peak memory by then | of which for each more file |",
         "|---|---:|---:|---:|---:|---:|",
     ]
     for step in measured[counts[0]][0]:
