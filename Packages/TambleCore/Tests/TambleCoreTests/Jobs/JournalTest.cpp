@@ -149,7 +149,7 @@ TEST_F(Journal, WhatAPowerCutTakesOfItIsFoundOnTheDisk) {
     const auto sorted = [](const UndoRecord& record) {
         std::vector<std::string> changes;
         for (const auto& [key, fingerprint] : record.createdFingerprints) {
-            changes.push_back(fmt::format("{} {} {}", key, fingerprint.size, fingerprint.modified));
+            changes.push_back(fmt::format("{} {} {}", key.native(), fingerprint.size, fingerprint.modified));
         }
         for (const auto& item : record.trashedItems) changes.push_back(writeJson(encodeJson(item)));
         for (const auto& output : record.createdFiles) changes.push_back(output.native());
