@@ -7,6 +7,7 @@
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
+#include <system_error>
 
 #include <fcntl.h>
 #include <pty.h>
@@ -112,6 +113,7 @@ Finished Home::tambleOnTerminal(const std::vector<std::string>& words, unsigned 
     winsize size{.ws_row = 24, .ws_col = cells, .ws_xpixel = 0, .ws_ypixel = 0};
     int terminal = -1;
     const pid_t child = forkpty(&terminal, nullptr, nullptr, &size);
+    if (child < 0) throw std::system_error(errno, std::generic_category(), "no pseudo-terminal");
     if (child == 0) {
         enter(root_, work_);
         setenv("TERM", "xterm-256color", 1);

@@ -1,5 +1,6 @@
 #include <TambleCore/Jobs/ItemProcessing.h>
 #include <TambleCore/Jobs/OutputAttributes.h>
+#include <TambleCore/Jobs/WatchedInput.h>
 #include <TambleCore/Platform/FileProperties.h>
 #include <TambleCore/Platform/SystemError.h>
 #include <TambleCore/Support/Failure.h>
@@ -21,6 +22,25 @@ outcome::Failed failed(std::string code, std::string detail) {
 
 outcome::Failed unexpected(const std::string& cause) {
     return failed("unexpected", "Something unexpected went wrong: " + cause);
+}
+
+/// Does the work. When an input changed meanwhile, that is what went wrong, whatever else the work met.
+template <typename Work>
+void watching(std::span<const WatchedInput> inputs, const Work& work) {
+    const auto throwIfAnyChanged = [&] {
+        for (const WatchedInput& input : inputs) input.throwIfChanged();
+    };
+    try {
+        work();
+    } catch (const ProcessorSkip&) {
+        throw;
+    } catch (const Cancelled&) {
+        throw;
+    } catch (...) {
+        throwIfAnyChanged();
+        throw;
+    }
+    throwIfAnyChanged();
 }
 
 /// The outcome of work that answers with its own; whatever it throws becomes one.
@@ -52,6 +72,7 @@ std::vector<StageOutcome> ItemProcessing::processAll(std::span<const InputFile> 
     const auto process = [&](std::size_t index) -> StageOutcome {
         const InputFile& file = files[index];
         if (stop.stop_requested()) return outcome::Cancelled{};
+        const WatchedInput input(file, WatchedInput::Subject::thisFile);
         if (auto reason = processor.skipReason(file)) return outcome::Skipped{std::move(*reason)};
         const auto target = outputs.intendedURL(file, processor.outputName(file));
         std::filesystem::path place;
@@ -61,12 +82,12 @@ std::vector<StageOutcome> ItemProcessing::processAll(std::span<const InputFile> 
             return failed("cannotCreateFolder", "No staging folder");
         }
         const auto report = [&](double fraction) { tracker.update(index, fraction); };
-        processor.process(file, place, {.progress = report, .stop = stop});
+        watching({&input, 1}, [&] { processor.process(file, place, {.progress = report, .stop = stop}); });
         if (stop.stop_requested()) return outcome::Cancelled{};
         if (!isThere(place)) return failed("noOutput", "Processor finished without writing a file");
         keepAttributes({&file, 1}, place,
                        processor.keepsModificationTime() ? OutputTime::ofOriginal : OutputTime::now);
-        return Staged{};
+        return Staged{input.original()};
     };
 
     std::vector<StageOutcome> outcomes(files.size());
@@ -94,6 +115,8 @@ std::vector<StageOutcome> ItemProcessing::processAll(std::span<const InputFile> 
 StageOutcome ItemProcessing::combine(std::span<const InputFile> files, const FileCombiner& combiner) const {
     const auto work = [&]() -> StageOutcome {
         if (stop.stop_requested()) return outcome::Cancelled{};
+        std::vector<WatchedInput> inputs;
+        for (const InputFile& file : files) inputs.emplace_back(file, WatchedInput::Subject::byName);
         const auto target = outputs.intendedURL(files.front(), combiner.outputName(files));
         std::filesystem::path place;
         try {
@@ -102,7 +125,7 @@ StageOutcome ItemProcessing::combine(std::span<const InputFile> files, const Fil
             return failed("cannotCreateFolder", "No staging folder");
         }
         const auto report = [&](double fraction) { tracker.update(0, fraction); };
-        combiner.combine(files, place, {.progress = report, .stop = stop});
+        watching(inputs, [&] { combiner.combine(files, place, {.progress = report, .stop = stop}); });
         if (stop.stop_requested()) return outcome::Cancelled{};
         if (!isThere(place)) return failed("noOutput", "Combiner finished without writing a file");
         keepAttributes(files, place, OutputTime::now);

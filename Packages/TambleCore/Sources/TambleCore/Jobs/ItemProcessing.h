@@ -5,11 +5,15 @@
 #include <TambleCore/Jobs/OutputPlanner.h>
 #include <TambleCore/Jobs/ProgressTracker.h>
 #include <TambleCore/Jobs/StagingArea.h>
+#include <TambleCore/Platform/FileState.h>
 
 namespace tamble {
 
 /// The output waits in its staging place.
-struct Staged {};
+struct Staged {
+    /// What the original was like before the work on it began; empty for an output of several.
+    std::optional<FileState> original = {};
+};
 /// How the processing of one item ended.
 using StageOutcome = std::variant<Staged, outcome::Skipped, outcome::Failed, outcome::Cancelled>;
 

@@ -135,8 +135,8 @@ JobResult JobEngine::run(std::vector<InputFile> files, const FileProcessor& proc
     SavePlanner planner(outputs.location, configuration.clashPolicy, originals, files);
     SavingPhase saving(*fileOps, journal.get(), planner, configuration.clashPolicy, staging);
     for (std::size_t i = 0; i < files.size(); ++i) {
-        if (std::holds_alternative<Staged>(outcomes[i]))
-            saving.plan(i, files[i], processor.outputName(files[i]));
+        if (const auto* staged = std::get_if<Staged>(&outcomes[i]))
+            saving.plan(i, files[i], processor.outputName(files[i]), staged->original);
     }
     JobResult result = resultOf(std::move(files), std::move(outcomes));
     int dealtWith = 0;
@@ -174,7 +174,7 @@ JobResult JobEngine::runCombined(std::vector<InputFile> files, const FileCombine
         tracker.saving(0);
         SavePlanner planner(outputs.location, configuration.clashPolicy, Originals::stay, files);
         SavingPhase saving(*fileOps, journal.get(), planner, configuration.clashPolicy, staging);
-        saving.plan(0, files.front(), combiner.outputName(files));
+        saving.plan(0, files.front(), combiner.outputName(files), std::nullopt);
         saving.saveAll([&](std::size_t, ItemOutcome saved) { common = std::move(saved); });
         result.undo = saving.finish();
     } else {

@@ -1,4 +1,6 @@
 #include <TambleCore/Jobs/JobSaver.h>
+#include <TambleCore/Jobs/WatchedInput.h>
+#include <TambleCore/Platform/FileProperties.h>
 #include <TambleCore/Platform/SystemError.h>
 #include <TambleCore/Support/Log.h>
 #include <TambleCore/Support/PathKey.h>
@@ -28,7 +30,7 @@ bool isFolder(const std::filesystem::path& path) {
 JobSaver::JobSaver(FileOperations& fileOps, JobJournal* journal, SavePlanner& planner, ClashPolicy policy)
     : fileOps_(fileOps), journal_(journal), planner_(planner), policy_(policy) {}
 
-ItemOutcome JobSaver::save(PlannedSave save) {
+ItemOutcome JobSaver::save(PlannedSave save, const std::optional<FileState>& original) {
     const std::size_t firstTrashed = record_.trashedItems.size();
     try {
         makeFolderFor(save.placement.target);
@@ -37,12 +39,15 @@ ItemOutcome JobSaver::save(PlannedSave save) {
     }
     try {
         std::optional<ItemNote> note;
-        clearTheWay(save, note);
+        clearTheWay(save, original, note);
         moveIntoPlace(save);
         return placed(std::move(save.placement.target), note);
     } catch (const NameTakenMeanwhile&) {
         if (putBack(firstTrashed)) return outcome::Skipped{skip::NameTaken{}};
         return failed("cannotSaveOriginalInBin", std::make_error_code(std::errc::file_exists).message());
+    } catch (const InputFailure& failure) {
+        return failed(putBack(firstTrashed) ? failure.code().c_str() : "cannotSaveOriginalInBin",
+                      failure.sentence());
     } catch (const std::exception& error) {
         std::string cause = causeOf(error);
         return failed(putBack(firstTrashed) ? "cannotSave" : "cannotSaveOriginalInBin", std::move(cause));
@@ -58,7 +63,9 @@ UndoRecord JobSaver::finish() {
                 // Somebody else uses it by now.
             }
         }
-        record_.createdFolders.reset();
+        // What is still there is for undo to try again.
+        std::erase_if(*record_.createdFolders, [](const auto& folder) { return !isThere(folder); });
+        if (record_.createdFolders->empty()) record_.createdFolders.reset();
     }
     return std::move(record_);
 }
@@ -89,14 +96,17 @@ void JobSaver::makeFolderFor(const std::filesystem::path& target) {
 }
 
 /// Sends to the Bin what the plan says; where there is no Bin, it stays and the output takes another name.
-void JobSaver::clearTheWay(PlannedSave& save, std::optional<ItemNote>& note) {
+void JobSaver::clearTheWay(PlannedSave& save, const std::optional<FileState>& asRead,
+                           std::optional<ItemNote>& note) {
     const auto [target, original, clashing] = save.placement;
     if (clashing && keepsForWantOfBin(*clashing)) {
         engineLog.notice("Existing file couldn't go to the Bin; saving with a number instead");
         note = ItemNote::existingKeptNoBin;
         useNumberInstead(save);
     }
-    if (!original || !keepsForWantOfBin(*original)) return;
+    if (!original) return;
+    throwIfChanged(*original, asRead);
+    if (!keepsForWantOfBin(*original)) return;
     note = ItemNote::originalKeptNoBin;
     if (pathKey(save.placement.target) != pathKey(*original)) {
         engineLog.notice("Original couldn't go to the Bin; keeping it");

@@ -2,7 +2,8 @@
 
 #include <TambleCore/Jobs/Journal/JobJournal.h>
 #include <TambleCore/Jobs/SavePlanner.h>
-#include <TambleCore/Platform/FileOperations.h>
+#include <TambleCore/Platform/CheckedFileOperations.h>
+#include <TambleCore/Platform/FileState.h>
 
 #include <functional>
 
@@ -15,15 +16,17 @@ class JobSaver {
     /// `journal` may be null.
     JobSaver(FileOperations& fileOps, JobJournal* journal, SavePlanner& planner, ClashPolicy policy);
 
+    /// `original`: what it was like when it was read; it goes to the Bin only as long as it is still so.
     /// Never throws.
-    ItemOutcome save(PlannedSave save);
+    ItemOutcome save(PlannedSave save, const std::optional<FileState>& original);
 
     /// What was changed by all of it. Folders made for nothing are removed first.
     UndoRecord finish();
 
   private:
     void makeFolderFor(const std::filesystem::path& target);
-    void clearTheWay(PlannedSave& save, std::optional<ItemNote>& note);
+    void clearTheWay(PlannedSave& save, const std::optional<FileState>& asRead,
+                     std::optional<ItemNote>& note);
     void trash(const std::filesystem::path& item);
     bool keepsForWantOfBin(const std::filesystem::path& item);
     void moveIntoPlace(PlannedSave& save);
@@ -32,7 +35,7 @@ class JobSaver {
     bool putBack(std::size_t firstTrashed);
     void tell(const std::function<void(JobJournal&)>& message);
 
-    FileOperations& fileOps_;
+    CheckedFileOperations fileOps_;
     JobJournal* journal_;
     SavePlanner& planner_;
     ClashPolicy policy_;

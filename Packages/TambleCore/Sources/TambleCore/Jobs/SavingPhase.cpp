@@ -9,8 +9,9 @@ SavingPhase::SavingPhase(FileOperations& fileOps, JobJournal* journal, SavePlann
                          ClashPolicy policy, StagingArea& staging)
     : journal_(journal), planner_(planner), staging_(staging), saver_(fileOps, journal, planner, policy) {}
 
-void SavingPhase::plan(std::size_t index, const InputFile& file, const std::string& outputName) {
-    waiting_.push_back({index, planner_.next(file, outputName)});
+void SavingPhase::plan(std::size_t index, const InputFile& file, const std::string& outputName,
+                       const std::optional<FileState>& original) {
+    waiting_.push_back({index, planner_.next(file, outputName), original});
 }
 
 void SavingPhase::saveAll(const HandOver& handOver) {
@@ -50,7 +51,8 @@ std::optional<std::string> SavingPhase::announce() const {
 
 ItemOutcome SavingPhase::save(Waiting& waiting) {
     if (auto* skipped = std::get_if<outcome::Skipped>(&waiting.decision)) return std::move(*skipped);
-    return saver_.save(plannedSave(waiting.index, std::get<Placement>(std::move(waiting.decision))));
+    return saver_.save(plannedSave(waiting.index, std::get<Placement>(std::move(waiting.decision))),
+                       waiting.original);
 }
 
 }  // namespace tamble

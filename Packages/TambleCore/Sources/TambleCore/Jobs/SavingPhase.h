@@ -15,7 +15,9 @@ class SavingPhase {
     SavingPhase(FileOperations& fileOps, JobJournal* journal, SavePlanner& planner, ClashPolicy policy,
                 StagingArea& staging);
 
-    void plan(std::size_t index, const InputFile& file, const std::string& outputName);
+    /// `original`: what it was like when it was read; it goes to the Bin only as long as it is still so.
+    void plan(std::size_t index, const InputFile& file, const std::string& outputName,
+              const std::optional<FileState>& original);
     /// In the order of planning; never throws what is not thrown by `handOver`.
     void saveAll(const HandOver& handOver);
     /// What was changed by all of it.
@@ -25,6 +27,7 @@ class SavingPhase {
     struct Waiting {
         std::size_t index = 0;
         SavePlanner::Decision decision;
+        std::optional<FileState> original;
     };
     PlannedSave plannedSave(std::size_t index, Placement placement) const;
     std::optional<std::string> announce() const;

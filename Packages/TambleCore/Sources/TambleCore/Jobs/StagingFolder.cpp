@@ -1,5 +1,6 @@
 #include <TambleCore/Jobs/StagingFolder.h>
 #include <TambleCore/Platform/AtomicFile.h>
+#include <TambleCore/Platform/FileProperties.h>
 #include <TambleCore/Platform/StandardFolders.h>
 #include <TambleCore/Platform/SystemError.h>
 #include <TambleCore/Platform/Volume.h>
@@ -93,9 +94,11 @@ void writeEntry(const LockedEntry& entry, const std::filesystem::path& folder) {
     throwLastError("cannot write", entry.lockFile);
 }
 
-void removeFolder(const std::filesystem::path& folder) {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder, ignored);
+/// Answers whether it is gone.
+bool removeFolder(const std::filesystem::path& folder) {
+    std::error_code error;
+    std::filesystem::remove_all(folder, error);
+    return !isThere(folder);
 }
 
 /// Whether the path that an entry names can be one of ours: never remove anything else, whatever the entry
@@ -112,8 +115,8 @@ void removeIfStale(const std::filesystem::path& lockFile) {
     std::string text = readWholeFile(lockFile);
     while (text.ends_with('\n')) text.pop_back();
     const std::string id = lockFile.stem().native();
-    if (const auto folder = pathFromFileURL(text); folder && isStagingFolder(*folder, id))
-        removeFolder(*folder);
+    const auto folder = pathFromFileURL(text);
+    if (folder && isStagingFolder(*folder, id) && !removeFolder(*folder)) return;
     ::unlink(lockFile.c_str());
 }
 
@@ -145,8 +148,8 @@ StagingFolder::StagingFolder(StagingFolder&& other) noexcept
 
 StagingFolder::~StagingFolder() {
     if (path_.empty()) return;
-    removeFolder(path_);
-    ::unlink(lockFile_.c_str());
+    // Of a folder that stays, for want of rights or of its disk, the next start is told.
+    if (removeFolder(path_)) ::unlink(lockFile_.c_str());
 }
 
 void removeStaleStagingFolders() {

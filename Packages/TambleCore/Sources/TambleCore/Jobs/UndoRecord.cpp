@@ -1,4 +1,5 @@
 #include <TambleCore/Jobs/UndoRecord.h>
+#include <TambleCore/Platform/CheckedFileOperations.h>
 #include <TambleCore/Platform/FileProperties.h>
 #include <TambleCore/Support/Log.h>
 #include <TambleCore/Support/PathKey.h>
@@ -101,15 +102,14 @@ class Undo {
     void removeFolders() {
         if (!record_.createdFolders) return;
         for (const auto& folder : *record_.createdFolders | std::views::reverse) {
-            try {
-                fileOps_.removeEmptyDirectory(folder);
-            } catch (const std::exception&) {
-            }
+            std::error_code error;
+            if (!std::filesystem::is_empty(folder, error) || error) continue;
+            succeeds([&] { fileOps_.removeEmptyDirectory(folder); });
         }
     }
 
     const UndoRecord& record_;
-    FileOperations& fileOps_;
+    CheckedFileOperations fileOps_;
     UndoReport report_;
 };
 

@@ -179,9 +179,11 @@ void copyFileContents(const std::filesystem::path& from, const std::filesystem::
     const FileDescriptor source(::open(from.c_str(), O_RDONLY | O_CLOEXEC));
     struct stat properties {};
     if (!source || ::fstat(source.number(), &properties) != 0) throwLastError("cannot open", from);
-    const FileDescriptor target = opened(to, O_WRONLY | O_CREAT | O_EXCL, 0666);
+    FileDescriptor target = opened(to, O_WRONLY | O_CREAT | O_EXCL, 0666);
     Unfinished unfinished(to);
     copyBytes(source.number(), target.number(), properties.st_size, from, to, progress);
+    // Network file systems tell only now that the disk is full.
+    if (::close(target.release()) != 0) throwLastError("cannot write", to);
     unfinished.isWhole();
 }
 

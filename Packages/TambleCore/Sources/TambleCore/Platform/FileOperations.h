@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 namespace tamble {
@@ -23,6 +24,9 @@ class FileOperations {
     /// Removes a folder that holds nothing (the error is otherwise std::errc::directory_not_empty).
     virtual void removeEmptyDirectory(const std::filesystem::path& folder) = 0;
 
+    /// Where in the Bin the item is that stood at the path, the newest if there are several; for what trash()
+    /// could not answer. Empty when there is none. Never throws.
+    virtual std::optional<std::filesystem::path> findInTrash(const std::filesystem::path& original) = 0;
     /// Whether an error of trash() means that the volume has no Bin.
     virtual bool isNoBinError(const std::error_code& error) const = 0;
 };

@@ -1,4 +1,5 @@
 #include <TambleCore/Platform/MoveItem.h>
+#include <TambleCore/Platform/RecentlyTrashed.h>
 #include <TambleCore/Platform/SystemError.h>
 #include <TambleCore/Platform/SystemFileOperations.h>
 #include <TambleCore/Platform/Trash.h>
@@ -34,6 +35,11 @@ void SystemFileOperations::createDirectory(const std::filesystem::path& folder) 
 
 void SystemFileOperations::removeEmptyDirectory(const std::filesystem::path& folder) {
     if (::rmdir(standardized(folder).c_str()) != 0) throwLastError("cannot remove", folder);
+}
+
+std::optional<std::filesystem::path> SystemFileOperations::findInTrash(
+    const std::filesystem::path& original) {
+    return RecentlyTrashed({}).placeOf(original);
 }
 
 bool SystemFileOperations::isNoBinError(const std::error_code& error) const {

@@ -13,6 +13,7 @@ class SystemFileOperations final : public FileOperations {
     void remove(const std::filesystem::path& item) override;
     void createDirectory(const std::filesystem::path& folder) override;
     void removeEmptyDirectory(const std::filesystem::path& folder) override;
+    std::optional<std::filesystem::path> findInTrash(const std::filesystem::path& original) override;
     bool isNoBinError(const std::error_code& error) const override;
 };
 

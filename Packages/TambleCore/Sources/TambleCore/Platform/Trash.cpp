@@ -1,4 +1,5 @@
 #include <TambleCore/Platform/FileDescriptor.h>
+#include <TambleCore/Platform/FileProperties.h>
 #include <TambleCore/Platform/MoveItem.h>
 #include <TambleCore/Platform/SystemError.h>
 #include <TambleCore/Platform/Trash.h>
@@ -73,7 +74,7 @@ std::error_code noBin() noexcept {
 
 std::filesystem::path put(const std::filesystem::path& item) {
     const std::filesystem::path given = standardized(item);
-    if (!std::filesystem::exists(std::filesystem::symlink_status(given))) {
+    if (!isThere(given)) {
         errno = ENOENT;
         throwLastError("cannot move to the Bin", given);
     }

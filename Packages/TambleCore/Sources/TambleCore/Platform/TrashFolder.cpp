@@ -1,4 +1,5 @@
 #include <TambleCore/Platform/StandardFolders.h>
+#include <TambleCore/Platform/SystemError.h>
 #include <TambleCore/Platform/Trash.h>
 #include <TambleCore/Platform/TrashFolder.h>
 #include <TambleCore/Platform/Volume.h>
@@ -19,9 +20,13 @@ bool isOwnFolder(const std::filesystem::path& folder) {
            properties.st_uid == ::getuid();
 }
 
-/// A private folder of the user's, made if it is missing; false for a link and for somebody else's.
+/// A private folder of the user's, made if it is missing; false for a link and for somebody else's. A full
+/// disk is an error, since it can have a Bin.
 bool makePrivateFolder(const std::filesystem::path& folder) {
-    if (::mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST) return false;
+    if (::mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST) {
+        if (errno == ENOSPC || errno == EDQUOT) throwLastError("cannot create", folder);
+        return false;
+    }
     return isOwnFolder(folder);
 }
 

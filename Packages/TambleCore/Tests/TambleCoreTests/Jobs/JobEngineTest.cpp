@@ -46,7 +46,7 @@ TEST(JobEngine, EveryEndOfAnItemIsAnOutcome) {
         brief(result),
         "done good.webp, processing failed noOutput, skipped notSmaller, processing failed cannotDecode, "
         "processing failed unexpected, processing failed unexpected, processing failed unexpected, "
-        "processing failed unexpected");
+        "processing failed inputMissing");
     EXPECT_EQ(std::get<outcome::Failed>(result.items[1].outcome).value.detail,
               "Processor finished without writing a file");
     EXPECT_EQ(std::get<outcome::Failed>(result.items[3].outcome).value.detail, "This file can't be opened.");
@@ -161,15 +161,45 @@ TEST(JobEngine, OutputsKeepPermissionsAndTime) {
 
 TEST(JobEngine, OddNamesGoThroughUnharmed) {
     const TestFolder folder;
-    const std::vector<std::string> names{"new\nline",     "not\xFFtext\xC3",    "-rf",
-                                         "shot[0]",       " spaces ",           "100%20.png",
-                                         "\"quoted'$(x)", std::string(255, 'n')};
+    std::string wide = "n";
+    while (wide.size() < 255) wide += "é";
+    const std::vector<std::string> names{"new\nline",
+                                         "\n",
+                                         "not\xFFtext\xC3",
+                                         "-rf",
+                                         "--",
+                                         "shot[0]",
+                                         "*?.png",
+                                         " spaces ",
+                                         " ",
+                                         ".hidden",
+                                         "..two dots",
+                                         "ends.",
+                                         "100%20.png",
+                                         "file:",
+                                         "back\\slash",
+                                         "\"quoted'$(x)",
+                                         "Photo.png",
+                                         "photo.PNG",
+                                         "caf\u00e9.png",
+                                         "cafe\u0301.png",
+                                         wide,
+                                         std::string(251, 'n') + ".png",
+                                         std::string(255, 'n')};
     std::vector<InputFile> files;
-    for (const std::string& name : names) files.push_back(looseFile(folder.write(name, name)));
+    for (const std::string& name : names) {
+        files.push_back(looseFile(folder.write(name, name)));
+        folder.write("out/" + name, "another " + name);
+    }
     const auto before = snapshot(folder.files());
-    for (const SaveLocation& place :
-         {SaveLocation(location::NextToOriginal{}), SaveLocation(location::ReplaceOriginals{})}) {
-        const JobResult result = engineWith().run(files, CopyThroughProcessor(), {.location = place});
+    const location::Folder out{.value = folder.files() / "out"};
+    for (const auto& [place, policy] :
+         {std::pair(SaveLocation(location::NextToOriginal{}), ClashPolicy::addNumber),
+          std::pair(SaveLocation(location::ReplaceOriginals{}), ClashPolicy::addNumber),
+          std::pair(SaveLocation(out), ClashPolicy::addNumber),
+          std::pair(SaveLocation(out), ClashPolicy::replace)}) {
+        const JobResult result =
+            engineWith().run(files, CopyThroughProcessor(), {.location = place, .clashPolicy = policy});
         for (std::size_t i = 0; i < files.size(); ++i) {
             const auto* done = std::get_if<outcome::Done>(&result.items[i].outcome);
             ASSERT_NE(done, nullptr) << brief(result);
@@ -177,8 +207,15 @@ TEST(JobEngine, OddNamesGoThroughUnharmed) {
         }
         const auto stored = decodeJson<UndoRecord>(parseJson(writeJson(encodeJson(result.undo))));
         SystemFileOperations fileOps;
-        EXPECT_EQ(apply(stored, fileOps).removedOutputs, static_cast<int>(names.size()));
+        for (const TrashedItem& item : stored.trashedItems) {
+            EXPECT_EQ(fileOps.findInTrash(item.original), item.inTrash) << "any desktop finds it";
+        }
+        const UndoReport report = apply(stored, fileOps);
+        EXPECT_EQ(report.removedOutputs, static_cast<int>(names.size()));
+        EXPECT_EQ(report.problems + report.keptBecauseChanged, 0);
         EXPECT_EQ(snapshot(folder.files()), before);
+        EXPECT_EQ(namesIn(folder.bin() / "files") + namesIn(folder.bin() / "info"), "");
+        EXPECT_EQ(namesIn(folder.staging()), "");
     }
 }
 

@@ -43,6 +43,7 @@ class KillingFileOperations final : public FileOperations {
     void removeEmptyDirectory(const path& folder) override {
         step([&] { real_.removeEmptyDirectory(folder); });
     }
+    std::optional<path> findInTrash(const path& original) override { return real_.findInTrash(original); }
     bool isNoBinError(const std::error_code& error) const override { return real_.isNoBinError(error); }
 
   private:

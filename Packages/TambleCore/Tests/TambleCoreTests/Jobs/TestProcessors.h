@@ -56,6 +56,8 @@ class TestFileOperations final : public FileOperations {
   public:
     /// Called before each operation with its name and path; what it throws fails the operation.
     std::function<void(const std::string&, const std::filesystem::path&)> before = {};
+    /// Called after each operation; what it throws fails an operation that happened.
+    std::function<void()> after = {};
     bool hasBin = true;
 
     static std::filesystem::filesystem_error fault(std::errc code = std::errc::io_error) {
@@ -65,23 +67,32 @@ class TestFileOperations final : public FileOperations {
     std::filesystem::path trash(const std::filesystem::path& item) override {
         step("trash", item);
         if (!hasBin) throw fault(std::errc::not_supported);
-        return real_.trash(item);
+        auto landed = real_.trash(item);
+        end();
+        return landed;
     }
     void move(const std::filesystem::path& from, const std::filesystem::path& to) override {
         step("move", to);
         real_.move(from, to);
+        end();
     }
     void remove(const std::filesystem::path& item) override {
         step("remove", item);
         real_.remove(item);
+        end();
     }
     void createDirectory(const std::filesystem::path& folder) override {
         step("createDirectory", folder);
         real_.createDirectory(folder);
+        end();
     }
     void removeEmptyDirectory(const std::filesystem::path& folder) override {
         step("removeEmptyDirectory", folder);
         real_.removeEmptyDirectory(folder);
+        end();
+    }
+    std::optional<std::filesystem::path> findInTrash(const std::filesystem::path& original) override {
+        return real_.findInTrash(original);
     }
     bool isNoBinError(const std::error_code& error) const override {
         return error == std::errc::not_supported || real_.isNoBinError(error);
@@ -90,6 +101,9 @@ class TestFileOperations final : public FileOperations {
   private:
     void step(const char* name, const std::filesystem::path& path) const {
         if (before) before(name, path);
+    }
+    void end() const {
+        if (after) after();
     }
     SystemFileOperations real_;
 };

@@ -2,6 +2,7 @@
 #include <TambleCore/Support/Log.h>
 
 #include <chrono>
+#include <set>
 
 #include <TambleCoreTests/Jobs/TestProcessors.h>
 
@@ -86,6 +87,30 @@ TEST_F(Undoing, SwapsNamesBack) {
     EXPECT_THAT(log.text(),
                 testing::HasSubstr("Undo couldn't put a renamed file back; it is at a temporary name in "
                                    "its folder\n"));
+}
+
+TEST_F(Undoing, AFaultAtAnyStepKeepsEveryRenamedFile) {
+    const path a = folder.files() / "a.txt", b = folder.files() / "b.txt", c = folder.files() / "c.txt";
+    const UndoRecord record{.renamedItems = {{a, b}, {b, a}, {folder.files() / "old.txt", c}}};
+    for (int faulty = 1;; ++faulty) {
+        folder.write("a.txt", "1");
+        folder.write("b.txt", "2");
+        folder.write("c.txt", "3");
+        int steps = 0;
+        fileOps.before = [&](const std::string&, const path&) {
+            if (++steps == faulty) throw TestFileOperations::fault();
+        };
+        const UndoReport report = apply(record, fileOps);
+        std::multiset<std::string> contents;
+        for (const auto& entry : std::filesystem::directory_iterator(folder.files())) {
+            contents.insert(contentOf(entry.path()));
+        }
+        EXPECT_THAT(contents, testing::ElementsAre("1", "2", "3"));
+        EXPECT_EQ(report.problems > 0, steps >= faulty);
+        EXPECT_EQ(report.restoredItems + report.problems, 3);
+        std::filesystem::remove_all(folder.files());
+        if (steps < faulty) break;
+    }
 }
 
 TEST_F(Undoing, LeavesFoldersThatAreInUse) {
