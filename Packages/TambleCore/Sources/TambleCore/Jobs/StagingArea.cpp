@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cerrno>
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tamble {
@@ -21,33 +20,33 @@ std::filesystem::path folderOf(const std::filesystem::path& target) {
 }  // namespace
 
 std::filesystem::path StagingArea::makePlace(std::size_t index, const std::filesystem::path& target) {
+    // Longer ones are no extensions, and might not fit behind the number.
+    constexpr std::size_t longestExtension = 32;
     const StagingFolder& folder = folderNear(target);
-    const std::filesystem::path own = itemFolder(folder, index);
-    if (::mkdir(own.c_str(), 0700) != 0) throwLastError("cannot create", own);
-    const std::filesystem::path name = standardized(target).filename();
+    std::string extension = standardized(target).extension().native();
+    if (extension.size() > longestExtension) extension.clear();
     const std::scoped_lock guard(lock_);
-    items_[index] = {&folder, name.native()};
-    return own / name;
+    const Item& item = items_[index] = {&folder, std::move(extension)};
+    return place(index, item);
 }
 
 std::filesystem::path StagingArea::placeOf(std::size_t index) const {
     const std::scoped_lock guard(lock_);
-    const Item& item = items_.at(index);
-    return itemFolder(*item.folder, index) / item.name;
+    return place(index, items_.at(index));
 }
 
 void StagingArea::discard(std::size_t index) {
-    std::filesystem::path own;
+    std::filesystem::path left;
     {
         const std::scoped_lock guard(lock_);
         const auto item = items_.find(index);
         if (item == items_.end()) return;
-        own = itemFolder(*item->second.folder, index);
+        left = place(index, item->second);
         items_.erase(item);
     }
-    // Empty, as a rule. What cannot be removed now goes with the staging folder.
+    // Gone already, as a rule. What cannot be removed now goes with the staging folder.
     std::error_code ignored;
-    if (::rmdir(own.c_str()) != 0) std::filesystem::remove_all(own, ignored);
+    if (::unlink(left.c_str()) != 0 && errno != ENOENT) std::filesystem::remove_all(left, ignored);
 }
 
 void StagingArea::removeAll() {
@@ -80,8 +79,8 @@ const StagingFolder& StagingArea::folderNear(const std::filesystem::path& target
     return found->folder;
 }
 
-std::filesystem::path StagingArea::itemFolder(const StagingFolder& folder, std::size_t index) {
-    return folder.path() / std::to_string(index);
+std::filesystem::path StagingArea::place(std::size_t index, const Item& item) {
+    return item.folder->path() / (std::to_string(index) + item.extension);
 }
 
 }  // namespace tamble

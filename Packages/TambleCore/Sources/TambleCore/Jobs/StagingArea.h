@@ -15,12 +15,13 @@ namespace tamble {
 /// Thread-safe.
 class StagingArea {
   public:
-    /// Where the item writes its output, which will go to `target`; in a folder of its own, which exists
-    /// then. Throws std::filesystem::filesystem_error when that cannot be made.
+    /// Where the item writes its output, which will go to `target`: a name of its own with the target's
+    /// extension, in a folder that exists then. Throws std::filesystem::filesystem_error when that cannot be
+    /// made.
     std::filesystem::path makePlace(std::size_t index, const std::filesystem::path& target);
     /// The place that was made for the item.
     std::filesystem::path placeOf(std::size_t index) const;
-    /// Removes the item's place with whatever is left in it.
+    /// Removes what is left at the item's place.
     void discard(std::size_t index);
     /// Removes everything.
     void removeAll();
@@ -32,10 +33,10 @@ class StagingArea {
     };
     struct Item {
         const StagingFolder* folder = nullptr;
-        std::string name;
+        std::string extension;
     };
     const StagingFolder& folderNear(const std::filesystem::path& target);
-    static std::filesystem::path itemFolder(const StagingFolder& folder, std::size_t index);
+    static std::filesystem::path place(std::size_t index, const Item& item);
 
     mutable std::mutex lock_;
     std::list<OnVolume> volumes_;
