@@ -107,6 +107,8 @@ std::optional<std::chrono::system_clock::time_point> timeOfISODate(std::string_v
     const std::chrono::year_month_day date{std::chrono::year(*year),
                                            std::chrono::month(static_cast<unsigned>(*month)),
                                            std::chrono::day(static_cast<unsigned>(*day))};
+    // The clock's nanoseconds reach from 1677 to 2262.
+    if (*year < 1678 || *year > 2261) return std::nullopt;
     if (!date.ok() || *hour > 23 || *minute > 59 || *second > 60) return std::nullopt;
     return std::chrono::sys_days(date) + std::chrono::hours(*hour) + std::chrono::minutes(*minute) +
            std::chrono::seconds(*second);

@@ -6,6 +6,7 @@ pkg_check_modules(JPEG REQUIRED IMPORTED_TARGET libjpeg)
 pkg_check_modules(TURBOJPEG REQUIRED IMPORTED_TARGET libturbojpeg)
 pkg_check_modules(LCMS REQUIRED IMPORTED_TARGET lcms2)
 pkg_check_modules(RAW REQUIRED IMPORTED_TARGET libraw_r)
+pkg_check_modules(HEIF REQUIRED IMPORTED_TARGET libheif)
 pkg_check_modules(EXIV2 REQUIRED IMPORTED_TARGET exiv2)
 
 file(GLOB_RECURSE image_sources CONFIGURE_DEPENDS
@@ -17,4 +18,4 @@ target_precompile_headers(TambleImages PRIVATE <TambleCore/Support/Precompiled.h
 target_link_libraries(TambleImages
     PUBLIC TambleCore
     PRIVATE tamble_options PkgConfig::VIPS PkgConfig::WEBP PkgConfig::JPEG PkgConfig::TURBOJPEG PkgConfig::LCMS
-            PkgConfig::RAW PkgConfig::EXIV2 PkgConfig::ZLIB)
+            PkgConfig::RAW PkgConfig::HEIF PkgConfig::EXIV2 PkgConfig::ZLIB)

@@ -50,6 +50,19 @@ bool supportsTransparency(ImageFormat format) {
     return facts(format).supportsTransparency;
 }
 
+std::vector<std::string> otherNames(ImageFormat format) {
+    switch (format) {
+        case ImageFormat::jpeg:
+            return {"jpg"};
+        case ImageFormat::tiff:
+            return {"tif"};
+        case ImageFormat::heic:
+            return {"heif"};
+        default:
+            return {};
+    }
+}
+
 std::optional<ImageFormat> imageFormat(const std::optional<ContentType>& type) {
     if (!type) return std::nullopt;
     for (const auto& candidate : formats) {

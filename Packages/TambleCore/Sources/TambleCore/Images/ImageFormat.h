@@ -3,7 +3,9 @@
 #include <TambleCore/Platform/ContentType.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include <boost/describe.hpp>
 
@@ -22,6 +24,9 @@ std::string_view contentTypeIdentifier(ImageFormat format);
 bool isLossy(ImageFormat format);
 /// Whether the format keeps an alpha channel.
 bool supportsTransparency(ImageFormat format);
+
+/// What people also call it on the command line, as "jpg".
+std::vector<std::string> otherNames(ImageFormat format);
 
 /// The format whose content type the given type conforms to.
 std::optional<ImageFormat> imageFormat(const std::optional<ContentType>& type);

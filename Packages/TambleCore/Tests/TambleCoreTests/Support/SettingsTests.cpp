@@ -7,6 +7,10 @@ namespace {
 enum class Size { small, large };
 BOOST_DESCRIBE_ENUM(Size, small, large)
 
+std::vector<std::string> otherNames(Size size) {
+    return size == Size::large ? std::vector<std::string>{"big"} : std::vector<std::string>{};
+}
+
 struct Same {
     static constexpr std::string_view caseName = "same";
 };
@@ -46,6 +50,7 @@ std::string typed(std::string_view field, std::string_view text) {
 TEST(SettingType, typedTextBecomesTheJsonOfItsField) {
     EXPECT_EQ(typed("output", "same"), R"({"same":{}})");
     EXPECT_EQ(typed("output", "into:large"), R"({"into":{"_0":"large"}})");
+    EXPECT_EQ(typed("output", "into:big"), R"({"into":{"_0":"large"}})");
     EXPECT_EQ(typed("maxPixelSize", "1920"), "1920");
     EXPECT_EQ(typed("maxPixelSize", "none"), "null");
     EXPECT_EQ(typed("isOn", "off"), "false");

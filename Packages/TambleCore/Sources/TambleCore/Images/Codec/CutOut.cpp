@@ -16,10 +16,35 @@ vips::VImage plainColours(const vips::VImage& picture) {
                     : opaque);
 }
 
+/// The highest value of a sample.
+double most(const vips::VImage& image) {
+    return image.format() == VIPS_FORMAT_USHORT ? 65535 : 255;
+}
+
+/// Whether most of the picture's edge is see-through: what it shows has been cut out before, and no other
+/// subject is to be looked for in it.
+bool isCutOut(const vips::VImage& picture) {
+    if (!picture.has_alpha()) return false;
+    const vips::VImage clear = picture[picture.bands() - 1] < most(picture) / 16;
+    const int right = picture.width() - 1;
+    const int bottom = picture.height() - 1;
+    // Comparing answers 0 or 255.
+    const double sides = clear.extract_area(0, 0, 1, picture.height()).avg() +
+                         clear.extract_area(right, 0, 1, picture.height()).avg() +
+                         clear.extract_area(0, 0, picture.width(), 1).avg() +
+                         clear.extract_area(0, bottom, picture.width(), 1).avg();
+    return sides / 4 > 127.5;
+}
+
 }  // namespace
 
 vips::VImage cutOut(const vips::VImage& picture, const WorkContext& context) {
     const vips::VImage source = held(picture);
+    if (isCutOut(source)) {
+        if (source[source.bands() - 1].max() == 0)
+            throw ConversionError(ConversionError::Case::noSubjectFound);
+        return source;
+    }
     const vips::VImage plain = plainColours(source);
     const auto size = 3 * static_cast<std::size_t>(plain.width()) * static_cast<std::size_t>(plain.height());
     const SubjectPicture seen{.pixels = {static_cast<const std::uint8_t*>(plain.data()), size},
@@ -34,8 +59,7 @@ vips::VImage cutOut(const vips::VImage& picture, const WorkContext& context) {
     if (source.format() == VIPS_FORMAT_USHORT) alpha = (alpha * 257).cast(VIPS_FORMAT_USHORT);
     if (!source.has_alpha()) return source.bandjoin(alpha);
     const int colours = source.bands() - 1;
-    const double most = source.format() == VIPS_FORMAT_USHORT ? 65535 : 255;
-    const vips::VImage both = (source[colours] * alpha / most).cast(source.format());
+    const vips::VImage both = (source[colours] * alpha / most(source)).cast(source.format());
     return source.extract_band(0, vips::VImage::option()->set("n", colours)).bandjoin(both);
 }
 

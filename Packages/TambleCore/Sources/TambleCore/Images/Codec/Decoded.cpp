@@ -1,3 +1,4 @@
+#include <TambleCore/Images/Codec/AppleIconRuns.h>
 #include <TambleCore/Images/Codec/CameraRaw.h>
 #include <TambleCore/Images/Codec/Decoded.h>
 #include <TambleCore/Images/Codec/Geometry.h>
@@ -38,6 +39,10 @@ Stored loadedFromAny(ByteView file, Container container, std::optional<int> maxP
         case Container::ico:
         case Container::icns: {
             const IconPicture icon = largestPicture(file, container);
+            if (icon.file.empty()) {
+                const vips::VImage image = runLengthCodedIcon(file);
+                return {image, fitted(sizeOf(image), maxPixelSize)};
+            }
             return loaded(icon.file, icon.container, icon.page, maxPixelSize);
         }
         case Container::cameraRaw: {

@@ -33,8 +33,11 @@ Bytes encodedGif(const vips::VImage& image);
 /// Hand over the only reference to a large picture, so that it makes room for the encoder.
 Bytes encodedWebP(vips::VImage image, const Encoding& encoding, const Watch& watch);
 
-/// HEIC or AVIF with EXIF, XMP and profile, which only their own writer can put in.
+/// HEIC or AVIF with EXIF, XMP and profile, which only their own writer can put in. `image` is 8-bit RGB or
+/// RGBA.
 Bytes encodedHeif(const vips::VImage& image, ImageFormat format, const Encoding& encoding,
                   const MetadataBlocks& blocks);
+/// Whether the machine has a coder for HEIC or AVIF.
+bool canEncodeHeif(ImageFormat format);
 
 }  // namespace tamble

@@ -34,21 +34,14 @@ IconPicture largestInIco(ByteView file) {
     return {file, Container::ico, static_cast<int>(*best)};
 }
 
-/// A header of 8 bytes, then blocks of a type, a length (which counts these 8 bytes) and the data. The larger
-/// sizes are PNG or JPEG 2000 files; of two the longer is the larger picture.
+/// The larger sizes are PNG or JPEG 2000 files; of two the longer is the larger picture.
 IconPicture largestInIcns(ByteView file) {
     IconPicture best{{}, Container::icns};
-    std::size_t at = 8;
-    while (const auto length = bigEndian32(file, at + 4)) {
-        if (*length < 8 || *length > file.size() - at) throw unreadable();
-        const ByteView data = file.subspan(at + 8, *length - 8);
-        const auto container = containerOf(data, {});
+    for (const IconBlock& block : appleIconBlocks(file)) {
+        const auto container = containerOf(block.data, {});
         const bool isPicture = container == Container::png || container == Container::jpeg2000;
-        if (isPicture && data.size() > best.file.size()) best = {data, *container};
-        at += *length;
+        if (isPicture && block.data.size() > best.file.size()) best = {block.data, *container};
     }
-    if (best.file.empty())
-        throw ConversionError(ConversionError::Case::cannotDecode, "No icon size that can be read");
     return best;
 }
 
@@ -56,6 +49,18 @@ IconPicture largestInIcns(ByteView file) {
 
 IconPicture largestPicture(ByteView file, Container container) {
     return container == Container::ico ? largestInIco(file) : largestInIcns(file);
+}
+
+/// A header of 8 bytes, then blocks of a type, a length (which counts these 8 bytes) and the data.
+std::vector<IconBlock> appleIconBlocks(ByteView file) {
+    std::vector<IconBlock> blocks;
+    std::size_t at = 8;
+    while (const auto length = bigEndian32(file, at + 4)) {
+        if (*length < 8 || *length > file.size() - at) throw unreadable();
+        blocks.push_back({textAt(file, at, 4), file.subspan(at + 8, *length - 8)});
+        at += *length;
+    }
+    return blocks;
 }
 
 }  // namespace tamble

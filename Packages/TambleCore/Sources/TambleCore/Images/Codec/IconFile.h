@@ -12,9 +12,18 @@ struct IconPicture {
     int page = 0;
 };
 
-/// The largest picture of a Windows icon file or an Apple icon file. Throws ConversionError::unreadable when
-/// the set is damaged, cannotDecode when it holds none that can be read (Apple's run-length coded sizes up to
-/// 128 pixels).
+/// The largest picture of a Windows icon file or an Apple icon file; its `file` is empty when an Apple icon
+/// holds none but run-length coded ones. Throws ConversionError::unreadable when the set is damaged.
 IconPicture largestPicture(ByteView file, Container container);
+
+/// A part of an Apple icon file.
+struct IconBlock {
+    /// Four letters.
+    std::string_view type;
+    ByteView data;
+};
+
+/// Throws ConversionError::unreadable when a length is wrong.
+std::vector<IconBlock> appleIconBlocks(ByteView file);
 
 }  // namespace tamble

@@ -33,6 +33,19 @@ const char* loaderOf(Container container) {
     throw ConversionError(ConversionError::Case::unreadable, "No loader");
 }
 
+/// The HEIF loader (libvips 8.14) ties its blocks to the life of its own picture, while pictures made from
+/// that one refer to them on. The profile is all that is needed of them.
+void ownProfile(vips::VImage& image) {
+    for (const char* name : {VIPS_META_EXIF_NAME, VIPS_META_XMP_NAME, VIPS_META_IPTC_NAME})
+        vips_image_remove(image.get_image(), name);
+    if (image.get_typeof(VIPS_META_ICC_NAME) == 0) return;
+    std::size_t size = 0;
+    const auto* const data = static_cast<const std::byte*>(image.get_blob(VIPS_META_ICC_NAME, &size));
+    // By way of a copy: setting the block releases the old one first.
+    const std::vector<std::byte> profile(data, data + size);
+    vips_image_set_blob_copy(image.get_image(), VIPS_META_ICC_NAME, profile.data(), profile.size());
+}
+
 }  // namespace
 
 vips::VImage opened(ByteView file, Container container, const LoadOptions& options) {
@@ -52,6 +65,7 @@ vips::VImage opened(ByteView file, Container container, const LoadOptions& optio
     } catch (const vips::VError& error) {
         throw ConversionError(ConversionError::Case::unreadable, error.what());
     }
+    if (container == Container::heic || container == Container::avif) ownProfile(image);
     return image;
 }
 

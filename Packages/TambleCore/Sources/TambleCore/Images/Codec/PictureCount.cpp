@@ -48,7 +48,8 @@ void refuseSeveralPictures(ByteView file, Container container) {
 }
 
 void refuseSeveralPictures(Container container, int count) {
-    if (count < 2 || container == Container::ico) return;
+    // What the JPEG 2000 loader counts are sizes of the one picture.
+    if (count < 2 || container == Container::ico || container == Container::jpeg2000) return;
     throw ConversionError(container == Container::tiff ? ConversionError::Case::multiPageNotSupported
                                                        : ConversionError::Case::animatedNotSupported,
                           fmt::format("{} pictures", count));

@@ -4,18 +4,6 @@
 namespace tamble {
 namespace {
 
-/// The library lists its saver whatever codecs it finds, so a picture is saved to see.
-bool canEncodeHeif(ImageFormat format) {
-    try {
-        const vips::VImage picture =
-            vips::VImage::black(64, 64, vips::VImage::option()->set("bands", 3))
-                .copy(vips::VImage::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
-        return !encodedHeif(picture, format, {}, {}).empty();
-    } catch (const vips::VError&) {
-        return false;
-    }
-}
-
 bool hasSaver(const char* name) {
     return vips_type_find("VipsOperation", name) != 0;
 }
@@ -34,14 +22,9 @@ bool canBeWritten(ImageFormat format) {
             return hasSaver("tiffsave_buffer");
         case ImageFormat::gif:
             return hasSaver("gifsave_buffer");
-        case ImageFormat::heic: {
-            static const bool can = canEncodeHeif(format);
-            return can;
-        }
-        case ImageFormat::avif: {
-            static const bool can = canEncodeHeif(format);
-            return can;
-        }
+        case ImageFormat::heic:
+        case ImageFormat::avif:
+            return canEncodeHeif(format);
     }
     return false;
 }

@@ -137,7 +137,11 @@ class LocationFilter {
 
 std::optional<Bytes> cleanedJpeg(ByteView file, MetadataRemoval removal) {
     const auto layout = jpeg::layout(file);
-    if (!layout) return std::nullopt;
+    // A scan is the least of a picture.
+    const bool hasPicture = layout && std::ranges::any_of(layout->segments, [](const Segment& segment) {
+                                return segment.marker == 0xDA;
+                            });
+    if (!hasPicture) return std::nullopt;
     Bytes result = removal == MetadataRemoval::everything ? withoutEverything(file, layout->segments)
                                                           : LocationFilter(file, layout->segments).run();
     append(result, asBytes("\xFF\xD9"));

@@ -92,7 +92,8 @@ std::optional<Bytes> cleanedPng(ByteView file, MetadataRemoval removal) {
         const bool critical = chunk.type.front() >= 'A' && chunk.type.front() <= 'Z';
         return chunk.type == "acTL" || (critical && !describesPixels(chunk.type));
     });
-    if (unknown) return std::nullopt;
+    if (unknown || std::ranges::find(layout->chunks, "IDAT", &png::Chunk::type) == layout->chunks.end())
+        return std::nullopt;
     return removal == MetadataRemoval::everything ? withoutEverything(file, *layout)
                                                   : withoutLocation(file, *layout);
 }

@@ -15,6 +15,10 @@ bool describesPixels(std::string_view type) {
 std::optional<Bytes> cleanedWebP(ByteView file, MetadataRemoval removal) {
     const auto layout = webp::layout(file);
     if (!layout || layout->chunks.empty()) return std::nullopt;
+    const bool hasPicture = std::ranges::any_of(layout->chunks, [](const webp::Chunk& chunk) {
+        return chunk.type == "VP8 " || chunk.type == "VP8L";
+    });
+    if (!hasPicture) return std::nullopt;
     const webp::Chunk& first = layout->chunks.front();
     const bool extended = first.type == "VP8X" && !first.data.empty();
     if (extended && (first.data[0] & webp::animationFlag) != std::byte{0}) return std::nullopt;

@@ -89,6 +89,8 @@ void TraceFinder::resources(ByteView blocks) {
 }
 
 void TraceFinder::exif(ByteView block) {
+    constexpr int mostStructures = 256;
+    if (++structures_ > mostStructures) return add("more EXIF than any camera writes");
     const auto structure = tiff::parsed(block);
     if (!structure) return add("EXIF that cannot be read");
     for (const tiff::Directory& directory : structure->directories) {

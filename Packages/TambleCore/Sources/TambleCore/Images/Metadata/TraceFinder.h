@@ -35,6 +35,8 @@ class TraceFinder {
     void resources(ByteView blocks);
 
     bool everything_;
+    /// Structures looked at: they can lie within one another in ever more ways.
+    int structures_ = 0;
     std::vector<std::string> found_;
 };
 

@@ -30,7 +30,8 @@ Json caseValue(const SettingType& type, std::string_view text) {
     const auto colon = text.find(':');
     const std::string_view name = text.substr(0, colon);
     for (const auto& candidate : type.cases) {
-        if (candidate.name != name) continue;
+        const auto& others = candidate.otherNames;
+        if (candidate.name != name && std::ranges::find(others, name) == others.end()) continue;
         const bool hasText = colon != std::string_view::npos;
         if (hasText == candidate.payload.empty()) {
             throw SettingError(hasText ? fmt::format("“{}” takes no value.", name)

@@ -28,6 +28,8 @@ struct SettingCase {
     std::string name;
     /// Empty or one type: what follows "name:" in the text form.
     std::vector<SettingType> payload;
+    /// What people also call it.
+    std::vector<std::string> otherNames = {};
 };
 
 /// A value typed by a person that does not fit its setting; what() is a sentence.
@@ -65,13 +67,18 @@ SettingType settingType() {
         return {.kind = SettingKind::text};
     } else if constexpr (DescribedEnum<T>) {
         SettingType type{.kind = SettingKind::enumeration};
-        for (auto& name : caseNames<T>()) type.cases.push_back({.name = std::move(name)});
+        for (const T value : allCases<T>()) {
+            SettingCase described{.name = std::string(caseName(value)), .payload = {}};
+            // Declared beside an enumeration whose cases have several names.
+            if constexpr (requires { otherNames(value); }) described.otherNames = otherNames(value);
+            type.cases.push_back(std::move(described));
+        }
         return type;
     } else if constexpr (CaseVariant<T>) {
         SettingType type{.kind = SettingKind::choice};
         boost::mp11::mp_for_each<boost::mp11::mp_transform<std::type_identity, T>>([&](auto identity) {
             using Case = typename decltype(identity)::type;
-            SettingCase described{.name = std::string(Case::caseName)};
+            SettingCase described{.name = std::string(Case::caseName), .payload = {}};
             boost::mp11::mp_for_each<MembersOf<Case>>([&](auto member) {
                 using Payload = std::remove_cvref_t<decltype(std::declval<Case>().*member.pointer)>;
                 described.payload.push_back(settingType<Payload>());

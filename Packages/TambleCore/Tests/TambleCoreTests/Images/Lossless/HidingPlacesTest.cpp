@@ -225,5 +225,42 @@ TEST_F(HidingPlaces, ExifThatCannotBeUnderstoodGoesWholeButTheOrientation) {
     }
 }
 
+/// A block of directories that all point to one thumbnail, which holds such a block again, and so on.
+Bytes nested(int levels) {
+    constexpr std::uint32_t directories = 20;
+    constexpr std::uint32_t directorySize = 2 + 2 * 12 + 4;
+    Bytes inner = bytes("\xFF\xD8");
+    if (levels > 0) {
+        const Bytes below = nested(levels - 1);
+        jpeg::appendSegment(inner, jpeg::Kind::exif, below);
+    }
+    append(inner, asBytes("\xFF\xDA\0\x02\0\xFF\xD9"sv));
+    Bytes block = bytes("MM\0*\0\0\0\x08"sv);
+    for (std::uint32_t i = 0; i < directories; ++i) {
+        appendNumber(block, std::uint16_t{2}, ByteOrder::big);
+        for (const auto& [tag, number] :
+             {std::pair(tiff::tag::thumbnailOffset, 8 + directories * directorySize),
+              std::pair(tiff::tag::thumbnailLength, static_cast<std::uint32_t>(inner.size()))}) {
+            appendNumber(block, tag, ByteOrder::big);
+            appendNumber(block, std::uint16_t{4}, ByteOrder::big);
+            appendNumber(block, std::uint32_t{1}, ByteOrder::big);
+            appendNumber(block, number, ByteOrder::big);
+        }
+        const bool isLast = i + 1 == directories;
+        appendNumber(block, isLast ? 0U : 8 + (i + 1) * directorySize, ByteOrder::big);
+    }
+    append(block, inner);
+    return block;
+}
+
+// Twenty ways at each of sixty levels would take longer than there is time.
+TEST_F(HidingPlaces, ThumbnailsWithinThumbnailsComeToAnEnd) {
+    const Bytes source = jpegWith({{0xE1, signedWith("Exif\0\0"sv, nested(60))}});
+    EXPECT_THAT(remainingTraces(source, ImageFormat::jpeg, MetadataRemoval::location), Not(IsEmpty()));
+    const auto result = losslesslyCleaned(source, ImageFormat::jpeg, MetadataRemoval::location);
+    if (!result) return;
+    EXPECT_THAT(remainingTraces(*result, ImageFormat::jpeg, MetadataRemoval::location), IsEmpty());
+}
+
 }  // namespace
 }  // namespace tamble::test

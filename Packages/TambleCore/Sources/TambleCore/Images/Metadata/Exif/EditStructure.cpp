@@ -83,6 +83,12 @@ class Editor {
                carriesMetadata(structure_.bytes.subspan(data->back().at, data->back().size));
     }
 
+    /// Thumbnails can stand in any directory, not only in one of their own.
+    bool dropsThumbnail(const Directory& directory) const {
+        return directory.find(tag::thumbnailOffset) != nullptr &&
+               (edit_.withoutThumbnail || (edit_.withoutLocation && tellsMore(directory)));
+    }
+
     bool entryReachesAllChildren(std::size_t parent, std::uint16_t tag) const {
         const Entry* pointer = structure_.directories[parent].find(tag);
         const auto children = std::ranges::count_if(structure_.directories, [&](const Directory& directory) {
@@ -98,6 +104,8 @@ class Editor {
     }
 
     bool drops(std::size_t parent, const Entry& entry) const {
+        if (entry.tag == tag::thumbnailOffset || entry.tag == tag::thumbnailLength)
+            return dropsThumbnail(structure_.directories[parent]);
         if (isPointer(entry)) {
             return (edit_.withoutLocation && entry.tag == tag::gpsDirectory) ||
                    structure_.numbers(entry).empty() || !entryReachesAllChildren(parent, entry.tag);
@@ -142,7 +150,11 @@ class Editor {
         for (auto& [record, value] : longer) {
             longerValues_.emplace_back(directory.at + 2 + record * entrySize, std::move(value));
         }
-        const auto pictures = pictureData(structure_, directory);
+        auto pictures = pictureData(structure_, directory);
+        // A thumbnail's part is the last.
+        if (pictures && dropsThumbnail(directory))
+            pictures->resize(pictures->size() -
+                             structure_.numbers(*directory.find(tag::thumbnailOffset)).size());
         if (pictures) pictures_.insert(pictures_.end(), pictures->begin(), pictures->end());
         return pictures.has_value() || directory.kind != DirectoryKind::page || index != 0;
     }

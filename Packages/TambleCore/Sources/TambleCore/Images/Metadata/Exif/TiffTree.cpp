@@ -25,7 +25,8 @@ Tree subtree(const Structure& structure, std::size_t index, ByteOrder order, con
     const Directory& directory = structure.directories[index];
     Tree result;
     for (const Entry& entry : directory.entries) {
-        if (!entry.readable || !keeps(directory.kind, entry.tag)) continue;
+        // Of two entries with one tag the first counts, as everywhere.
+        if (!entry.readable || result.has(entry.tag) || !keeps(directory.kind, entry.tag)) continue;
         Tree::Value value{entry.tag, entry.type, entry.count, {}, {}};
         for (std::size_t i = index + 1; i < structure.directories.size(); ++i) {
             const Directory& child = structure.directories[i];

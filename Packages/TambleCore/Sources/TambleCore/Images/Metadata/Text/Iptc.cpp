@@ -26,6 +26,15 @@ std::optional<std::size_t> lengthOfFirst(ByteView records) {
     return length <= records.size() - header ? std::optional(header + length) : std::nullopt;
 }
 
+/// Whether a place's dataset begins inside another one's value: lengths that lie, or one hidden in the other.
+bool hidesLocation(ByteView value) {
+    for (std::size_t at = 0; at + 3 <= value.size(); ++at) {
+        const bool begins = value[at] == tagMarker && value[at + 1] == std::byte{applicationRecord};
+        if (begins && isLocation(std::to_integer<unsigned>(value[at + 2]))) return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 bool isLocation(unsigned dataset) {
@@ -46,7 +55,7 @@ std::vector<Dataset> datasets(ByteView records) {
 Bytes withoutLocation(ByteView records) {
     Bytes result;
     for (const Dataset& dataset : datasets(records)) {
-        if (dataset.record != applicationRecord || !isLocation(dataset.number)) append(result, dataset.whole);
+        if (!hidesLocation(dataset.whole)) append(result, dataset.whole);
     }
     return result;
 }
