@@ -1,7 +1,6 @@
-"""Runs one command and tells its time, its processor time and the memory of all its processes together."""
+"""Runs one command and tells its time and processor time, or the memory of all its processes together."""
 
 import os
-import resource
 import threading
 import time
 from dataclasses import dataclass
@@ -9,14 +8,12 @@ from pathlib import Path
 
 # Seconds; samples are close together at first, for what ends soon.
 FIRST_INTERVAL, LONGEST_INTERVAL = 0.001, 0.02
-PAGE_SIZE = os.sysconf("SC_PAGE_SIZE")
 
 
 @dataclass(frozen=True)
 class Measurement:
     seconds: float
     processor_seconds: float
-    peak_bytes: int
 
 
 class CommandFailed(Exception):
@@ -36,16 +33,17 @@ def _descendants(pid):
             pass  # it has ended
 
 
-def _resident_bytes(pid):
+def _bytes_held(pid):
+    """Proportional set size: a page that several processes share counts in parts."""
     try:
-        with open(f"/proc/{pid}/statm") as statm:
-            return int(statm.read().split()[1]) * PAGE_SIZE
-    except OSError:
-        return 0
+        with open(f"/proc/{pid}/smaps_rollup") as memory:
+            return next(int(line.split()[1]) * 1024 for line in memory if line.startswith("Pss:"))
+    except (OSError, StopIteration):
+        return 0  # it has ended
 
 
 class _MemorySampler(threading.Thread):
-    """Adds up the resident memory of a process and all below it, every now and then, and keeps the most."""
+    """Adds up the memory of a process and all below it, every now and then, and keeps the most."""
 
     def __init__(self, pid):
         super().__init__(daemon=True)
@@ -57,27 +55,40 @@ class _MemorySampler(threading.Thread):
         interval = FIRST_INTERVAL
         while not self.ended.wait(interval):
             interval = min(interval * 1.5, LONGEST_INTERVAL)
-            self.peak = max(self.peak, sum(map(_resident_bytes, _descendants(self.pid))))
+            self.peak = max(self.peak, sum(map(_bytes_held, _descendants(self.pid))))
 
 
-def measure(command, environment, log: Path) -> Measurement:
+def _start(command, environment, log: Path) -> int:
     """`command` is a list whose first element is an absolute path. Its output goes to `log`."""
     actions = [
         (os.POSIX_SPAWN_OPEN, 0, "/dev/null", os.O_RDONLY, 0),
         (os.POSIX_SPAWN_OPEN, 1, str(log), os.O_WRONLY | os.O_CREAT | os.O_TRUNC, 0o644),
         (os.POSIX_SPAWN_DUP2, 1, 2),
     ]
-    start = time.perf_counter()
-    pid = os.posix_spawn(command[0], command, environment, file_actions=actions)
-    sampler = _MemorySampler(pid)
-    sampler.start()
+    return os.posix_spawn(command[0], command, environment, file_actions=actions)
+
+
+def _end(pid, command, log: Path):
     _, status, usage = os.wait4(pid, 0)
-    seconds = time.perf_counter() - start
-    sampler.ended.set()
-    sampler.join()
     if status != 0:
         raise CommandFailed(f"{' '.join(command)}\n{log.read_text(errors='replace')[-2000:]}")
-    # The kernel knows the peak of the largest single process exactly, but starts counting before this program has
-    # given way to the measured one: a figure that is not above our own says nothing.
-    largest = usage.ru_maxrss if usage.ru_maxrss > resource.getrusage(resource.RUSAGE_SELF).ru_maxrss else 0
-    return Measurement(seconds, usage.ru_utime + usage.ru_stime, max(sampler.peak, largest * 1024))
+    return usage
+
+
+def measure(command, environment, log: Path) -> Measurement:
+    start = time.perf_counter()
+    usage = _end(_start(command, environment, log), command, log)
+    return Measurement(time.perf_counter() - start, usage.ru_utime + usage.ru_stime)
+
+
+def peak_bytes(command, environment, log: Path) -> int:
+    """Looking takes time, so this is another run than the measured ones."""
+    pid = _start(command, environment, log)
+    sampler = _MemorySampler(pid)
+    sampler.start()
+    try:
+        _end(pid, command, log)
+    finally:
+        sampler.ended.set()
+        sampler.join()
+    return sampler.peak

@@ -38,8 +38,8 @@ def _ratio(row, name: str, ours: float, theirs: float) -> str:
     return f"{ours / theirs:.2f}{verdict}"
 
 
-def table(row, measured: dict, notes: dict) -> str:
-    """`measured` holds the measurements of each contender, `notes` what was found in its output."""
+def table(row, measured: dict, peaks: dict, notes: dict) -> str:
+    """`measured` holds the measurements of each contender, `peaks` its memory, `notes` what was found in its output."""
     medians = {name: statistics.median(one.seconds for one in all_of) for name, all_of in measured.items()}
     lines = [
         f"### {row.title} (`{row.key}`)",
@@ -50,7 +50,7 @@ def table(row, measured: dict, notes: dict) -> str:
     for name, all_of in measured.items():
         times = sorted(one.seconds for one in all_of)
         ratio = _ratio(row, name, medians[OURS], medians[name]) if OURS in medians and name != OURS else ""
-        memory = f"{max(one.peak_bytes for one in all_of) / MEBIBYTE:.0f} MiB"
+        memory = f"{peaks.get(name, 0) / MEBIBYTE:.0f} MiB"
         if name == OURS and row.wanted_mebibytes:
             memory += f" (wanted ≤ {row.wanted_mebibytes})"
         processor = statistics.median(one.processor_seconds for one in all_of)

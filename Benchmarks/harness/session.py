@@ -5,7 +5,7 @@ import shutil
 from pathlib import Path
 
 from . import programs, report
-from .measure import CommandFailed, measure
+from .measure import CommandFailed, measure, peak_bytes
 
 
 def _environment(home: Path) -> dict:
@@ -31,35 +31,57 @@ def _is_there(contender, inputs) -> bool:
     return all(map(programs.is_installed, contender.needs)) and program.exists()
 
 
+class _Places:
+    """A new home and output folder for each run. All are kept until the row is done: a file system that has just removed
+    thousands of files is slow at making new ones."""
+
+    def __init__(self, work: Path):
+        self.work, self.count = work / "runs", 0
+
+    def new(self):
+        self.count += 1
+        home, output = self.work / f"{self.count}/home", self.work / f"{self.count}/output"
+        for folder in (home, output):
+            folder.mkdir(parents=True)
+        # What earlier runs wrote is not to be written to the disk during this one.
+        os.sync()
+        return home, output
+
+    def remove(self):
+        shutil.rmtree(self.work, ignore_errors=True)
+
+
 def run_row(row, inputs, warm_folder: Path | None, runs: int, work: Path, say) -> str:
     contenders = [contender for contender in row.contenders if _is_there(contender, inputs)]
     measured = {contender.name: [] for contender in contenders}
-    notes, made, failed = {}, {}, set()
-    log, home, output = work / "log", work / "home", work / "output"
+    peaks, notes, made, failed = {}, {}, {}, set()
+    log, places = work / "log", _Places(work)
     if warm_folder:
         _warm(warm_folder)
+
+    def run(contender, how):
+        home, output = places.new()
+        result = how(_command(contender, inputs, output), _environment(home), log)
+        if contender.name not in made:
+            made[contender.name] = row.made(inputs, output, log)
+            left = f"; {row.left(output)}" if row.left else ""
+            notes[contender.name] = made[contender.name] + left
+        return result
+
     for number in range(runs * row.repetitions):
         turn = number % len(contenders) if contenders else 0
         for contender in contenders[turn:] + contenders[:turn]:
             if contender.name in failed:
                 continue
-            for folder in (home, output):
-                shutil.rmtree(folder, ignore_errors=True)
-                folder.mkdir(parents=True)
-            # What earlier runs wrote is not to be written to the disk during this one.
-            os.sync()
             try:
-                measured[contender.name].append(measure(_command(contender, inputs, output), _environment(home), log))
+                measured[contender.name].append(run(contender, measure))
+                if number == 0:
+                    peaks[contender.name] = run(contender, peak_bytes)
             except CommandFailed as failure:
                 say(f"{row.key}: {contender.name} failed:\n{failure}")
                 failed.add(contender.name)
-                continue
-            if contender.name not in made:
-                made[contender.name] = row.made(inputs, output, log)
-                left = f"; {row.left(output)}" if row.left else ""
-                notes[contender.name] = made[contender.name] + left
-    shutil.rmtree(output, ignore_errors=True)
+    places.remove()
     measured = {name: all_of for name, all_of in measured.items() if all_of}
     if len(set(made.values())) > 1:
         say(f"{row.key}: the contenders made different things, so their times don't compare: {made}")
-    return report.table(row, measured, notes)
+    return report.table(row, measured, peaks, notes)

@@ -34,10 +34,13 @@ class Reconciliation {
     }
 
   private:
-    /// The clock of file systems may lag behind the system's by a moment.
+    /// The clock of file systems may lag behind the system's by a moment. Nobody knows where a damaged number
+    /// comes from: then nothing counts as recent.
     static std::chrono::system_clock::time_point startOf(const journal::Job& job) {
         using Clock = std::chrono::system_clock;
         const std::chrono::duration<double> since(job.started);
+        const std::chrono::duration<double> now = Clock::now().time_since_epoch();
+        if (!(since.count() >= 0 && since <= now)) return Clock::now();
         return Clock::time_point(std::chrono::duration_cast<Clock::duration>(since)) -
                std::chrono::seconds(1);
     }

@@ -97,6 +97,16 @@ TEST(ConvertTests, RotationsTurnTheUprightPicture) {
     }
 }
 
+TEST(ConvertTests, NewerFormatsAreSmallerThanJpeg) {
+    const PictureFolder folder;
+    const auto source = folder.picture("a.png", photograph(600, 400));
+    const std::size_t jpeg = converted(source, ImageFormat::jpeg).size();
+    for (const ImageFormat format : {ImageFormat::webp, ImageFormat::heic, ImageFormat::avif}) {
+        if (!ImageCapabilities::canWrite(format)) continue;
+        EXPECT_LT(converted(source, format).size(), jpeg) << displayName(format);
+    }
+}
+
 TEST(ConvertTests, PicturesShrinkButNeverGrow) {
     const PictureFolder folder;
     const auto wide = folder.picture("a.jpg", photograph(1000, 333));
