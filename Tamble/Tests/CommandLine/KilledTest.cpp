@@ -10,15 +10,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Waits until the journal of a job is there, and then so long.
-void waitForSaving(const fs::path& data, std::chrono::microseconds then) {
-    const auto hasJournal = [&] {
+/// Waits until so many originals are in the Bin.
+void waitForTrashed(const fs::path& data, std::ptrdiff_t count) {
+    const auto isThere = [&] {
         std::error_code error;
-        return fs::directory_iterator(data / "journal", error) != fs::directory_iterator();
+        return std::distance(fs::directory_iterator(data.parent_path() / "Trash/files", error), {}) >= count;
     };
     const auto giveUp = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-    while (!hasJournal() && std::chrono::steady_clock::now() < giveUp) std::this_thread::yield();
-    std::this_thread::sleep_for(then);
+    while (!isThere() && std::chrono::steady_clock::now() < giveUp) std::this_thread::yield();
 }
 
 TEST(Killed, WhileItReplacesOriginalsNothingIsLost) {
@@ -26,11 +25,11 @@ TEST(Killed, WhileItReplacesOriginalsNothingIsLost) {
     for (int i = 0; i < 60; ++i) home.addPicture("Photos/" + std::to_string(i) + ".bmp", 8, 8);
     const auto before = home.contents();
     int interruptions = 0;
-    for (int attempt = 0; attempt < 12; ++attempt) {
+    for (int attempt = 0; attempt < 8; ++attempt) {
         SCOPED_TRACE(attempt);
         home.tamble({"image.convert", "--to", "png", "--save", "replace", "--clash", "replace", "Photos"}, {},
                     [&](pid_t program) {
-                        waitForSaving(home.data(), std::chrono::microseconds(400 * attempt));
+                        waitForTrashed(home.data(), 1 + 5 * attempt);
                         ::kill(program, SIGKILL);
                     });
         const Finished listed = home.tamble({"activity"});

@@ -34,6 +34,13 @@ std::vector<pid_t> childrenOf(pid_t parent) {
     return children;
 }
 
+/// Whether all threads of the child have ended; it is not waited for.
+bool hasEnded(pid_t child) {
+    siginfo_t information{};
+    return ::waitid(P_PID, static_cast<id_t>(child), &information, WEXITED | WNOHANG | WNOWAIT) == 0 &&
+           information.si_pid == child;
+}
+
 bool eventually(const std::function<bool()>& condition) {
     for (const auto until = Clock::now() + 10s; Clock::now() < until; std::this_thread::sleep_for(5ms)) {
         if (condition()) return true;
@@ -54,7 +61,7 @@ TEST_F(IsolationTest, WorkersAreUsedAgainAndEndWithThePool) {
 
     // One that dies between two items costs nothing.
     ::kill(first.front(), SIGKILL);
-    EXPECT_TRUE(eventually([&] { return childrenOf(::getpid()).empty(); }));
+    EXPECT_TRUE(eventually([&] { return hasEnded(first.front()); }));
     EXPECT_EQ(outcomeOf(processor, input("c"), staging() / "c"), "done");
 
     work = {};
