@@ -60,6 +60,7 @@ class Row:
     wanted_mebibytes: int | None = None
     # Short work is repeated more often.
     repetitions: int = 1
+    makes_many_files: bool = False
 
 
 def bash(*parts) -> str:
@@ -219,6 +220,7 @@ COPY = Row(
     made=_same_count,
     wanted={"cp -r": 3.0},
     repetitions=3,
+    makes_many_files=True,
 )
 
 

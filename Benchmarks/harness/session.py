@@ -32,13 +32,15 @@ def _is_there(contender, inputs) -> bool:
 
 
 class _Places:
-    """A new home and output folder for each run. All are kept until the row is done: a file system that has just removed
-    thousands of files is slow at making new ones."""
+    """A new home and output folder for each run. With `keeps`, the earlier ones stay until the row is done: a file system
+    that has just removed thousands of files is slow at making new ones. Otherwise they make room for the next."""
 
-    def __init__(self, work: Path):
-        self.work, self.count = work / "runs", 0
+    def __init__(self, work: Path, keeps: bool):
+        self.work, self.keeps, self.count = work / "runs", keeps, 0
 
     def new(self):
+        if not self.keeps:
+            self.remove()
         self.count += 1
         home, output = self.work / f"{self.count}/home", self.work / f"{self.count}/output"
         for folder in (home, output):
@@ -55,7 +57,7 @@ def run_row(row, inputs, warm_folder: Path | None, runs: int, work: Path, say) -
     contenders = [contender for contender in row.contenders if _is_there(contender, inputs)]
     measured = {contender.name: [] for contender in contenders}
     peaks, notes, made, failed = {}, {}, {}, set()
-    log, places = work / "log", _Places(work)
+    log, places = work / "log", _Places(work, row.makes_many_files)
     if warm_folder:
         _warm(warm_folder)
 
