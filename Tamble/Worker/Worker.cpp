@@ -41,9 +41,9 @@ std::optional<SandboxPolicy> policyFrom(std::span<char* const> arguments) {
     return policy;
 }
 
-/// Pictures go back to the system at once: the allocator would keep the room of the largest one for the next.
+/// Large pictures go back to the system at once: the allocator would keep the room of the largest for the next.
 void returnLargeBlocks() {
-    constexpr int threshold = 1 << 20;
+    constexpr int threshold = 16 << 20;
     ::mallopt(M_MMAP_THRESHOLD, threshold);
     ::mallopt(M_TRIM_THRESHOLD, threshold);
 }
