@@ -134,7 +134,6 @@ ExitStatus exitStatus(const JobResult& result, const ScanResult& scan) {
 ExitStatus runTool(const ToolDefinition& tool, const CommandDescription& command,
                    const ParsedArguments& arguments) {
     const TypedJob request = jobRequest(tool, command, arguments);
-    announceInterruptedJobs();
     ScanResult scan = FolderScanner{request.scanOptions}.scan(request.paths);
     for (const auto& note : scanNotes(scan)) printError(note + '\n');
     const bool isEmpty = scan.files.empty();
@@ -142,6 +141,7 @@ ExitStatus runTool(const ToolDefinition& tool, const CommandDescription& command
     if (isEmpty && !request.wantsJson) return ExitStatus::someFailed;
     if (request.isDryRun) return showPlan(request, scan);
 
+    announceInterruptedJobs();
     const auto [result, id] = runAndRemember(tool.id, request, std::move(scan.files));
     for (const auto& line : problemLines(result)) printError(line + '\n');
     if (request.wantsJson) {

@@ -25,18 +25,9 @@ TEST(ConvertTests, EveryFormatIsWrittenAndShowsThePicture) {
 
 TEST(ConvertTests, EveryOrientationComesOutUpright) {
     const PictureFolder folder;
-    // The picture as it is stored when the orientation says how to turn it upright.
     const VImage upright = fourFields(64, 48);
-    const std::vector<VImage> stored{upright,
-                                     upright.fliphor(),
-                                     upright.rot180(),
-                                     upright.flipver(),
-                                     upright.rot90().fliphor(),
-                                     upright.rot270(),
-                                     upright.rot270().fliphor(),
-                                     upright.rot90()};
     for (int orientation = 1; orientation <= 8; ++orientation) {
-        const VImage image = withOrientation(stored[static_cast<std::size_t>(orientation - 1)], orientation);
+        const VImage image = storedAs(upright, orientation);
         const auto source = folder.picture(fmt::format("{}.jpg[Q=95]", orientation), image);
         for (const bool everythingGone : {false, true}) {
             for (const std::optional<int> size : {std::optional<int>(), std::optional(32)}) {
@@ -54,14 +45,6 @@ TEST(ConvertTests, TurnedPicturesOfOddSidesKeepTheirColoursInPlace) {
     const PictureFolder folder;
     // Coloured tiles that lie on no grid of blocks: colours that move by a pixel are seen at their edges.
     const VImage upright = fourFields(35, 21).replicate(4, 3).extract_area(3, 2, 133, 61);
-    const std::vector<VImage> stored{upright,
-                                     upright.fliphor(),
-                                     upright.rot180(),
-                                     upright.flipver(),
-                                     upright.rot90().fliphor(),
-                                     upright.rot270(),
-                                     upright.rot270().fliphor(),
-                                     upright.rot90()};
     // Full colour is as good whichever way it is turned. Halved colour is averaged once more across the
     // blocks, which costs less than a displaced pixel does.
     struct Case {
@@ -71,8 +54,7 @@ TEST(ConvertTests, TurnedPicturesOfOddSidesKeepTheirColoursInPlace) {
     for (const auto& [options, mostDifference] :
          {Case{"[Q=98,subsample-mode=off]", 10.3}, Case{"[Q=98,subsample-mode=on]", 6}}) {
         for (int orientation = 1; orientation <= 8; ++orientation) {
-            const VImage image =
-                withOrientation(stored[static_cast<std::size_t>(orientation - 1)], orientation);
+            const VImage image = storedAs(upright, orientation);
             const auto source = folder.picture(fmt::format("{}.jpg{}", orientation, options), image);
             const auto bytes = converted(source, ImageFormat::webp, {.quality = Settings::Quality::best});
             const VImage decoded = VImage::new_from_file(source.c_str()).autorot();

@@ -9,19 +9,6 @@ namespace {
 using vips::VImage;
 using Settings = ImageJobSettings;
 
-/// How the picture is stored when the orientation says how to turn it upright.
-VImage stored(const VImage& upright, int orientation) {
-    const std::vector<VImage> all{upright,
-                                  upright.fliphor(),
-                                  upright.rot180(),
-                                  upright.flipver(),
-                                  upright.rot90().fliphor(),
-                                  upright.rot270(),
-                                  upright.rot270().fliphor(),
-                                  upright.rot90()};
-    return withOrientation(all[static_cast<std::size_t>(orientation - 1)].copy_memory(), orientation);
-}
-
 /// A file of it; the library that writes them puts no orientation into PNG.
 std::filesystem::path fileOf(const VImage& image, const std::string& name, const PictureFolder& folder) {
     const auto file = folder.picture(name, image);
@@ -56,7 +43,7 @@ TEST(OrientationTests, GoWithRotationAndResizing) {
     const PictureFolder folder;
     const VImage upright = fourFields(64, 48);
     for (int orientation = 1; orientation <= 8; ++orientation) {
-        const VImage image = stored(upright, orientation);
+        const VImage image = storedAs(upright, orientation);
         for (const auto* name : {"a.jpg[Q=95]", "a.png", "a.tiff", "a.webp[lossless]"}) {
             const auto source = fileOf(image, name, folder);
             for (const auto rotation : allCases<Settings::Rotation>()) {

@@ -72,6 +72,18 @@ VImage withOrientation(const VImage& image, int orientation) {
     return copy;
 }
 
+VImage storedAs(const VImage& upright, int orientation) {
+    const std::vector<VImage> all{upright,
+                                  upright.fliphor(),
+                                  upright.rot180(),
+                                  upright.flipver(),
+                                  upright.rot90().fliphor(),
+                                  upright.rot270(),
+                                  upright.rot270().fliphor(),
+                                  upright.rot90()};
+    return withOrientation(all[static_cast<std::size_t>(orientation - 1)].copy_memory(), orientation);
+}
+
 ImageConverter::Memory converted(const std::filesystem::path& source, ImageFormat format,
                                  const ImageJobSettings& settings) {
     return ImageConverter{}.encodedData(source, settings, format);

@@ -29,6 +29,8 @@ vips::VImage fourFields(int width, int height);
 /// Smooth colours with some noise: what a lossy codec makes of a photograph.
 vips::VImage photograph(int width, int height);
 vips::VImage withOrientation(const vips::VImage& image, int orientation);
+/// How the picture is stored when the orientation says how to turn it upright.
+vips::VImage storedAs(const vips::VImage& upright, int orientation);
 
 /// The converter's result in memory.
 ImageConverter::Memory converted(const std::filesystem::path& source, ImageFormat format,
