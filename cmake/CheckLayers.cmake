@@ -12,6 +12,8 @@ set(Jobs_from Support Platform Intake)
 foreach(family ${families})
     set(${family}_from Support Platform Intake Jobs)
 endforeach()
+# Pages become pictures and pictures become pages.
+list(APPEND PDF_from Images)
 list(APPEND Smart_from Media PDF)
 set(Catalog_from Support Platform Intake Jobs ${families})
 

@@ -20,7 +20,7 @@ void checkDecoded(const ToolDefinition& tool, const Json& settings) {
     const Json once = tool.normalized(settings);
     const Json again = tool.normalized(parseJson(writeJson(once)));
     fuzz::require(once == again, "settings that decode come back as they were");
-    tool.makeWork(once);
+    tool.makeWork(once, {});
 }
 
 void readJson(const ToolDefinition& tool, std::string_view text) {

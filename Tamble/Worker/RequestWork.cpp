@@ -31,14 +31,16 @@ struct Worker {
     const WorkContext& context;
 
     WorkerReply operator()(const request::Process& request) const {
-        const auto work = tool(request.job, tools).makeWork(request.job.settings);
-        workOf<FileProcessor>(work).process(inputFile(request.file), request.destination, context);
-        return reply::Done{};
+        const auto work = tool(request.job, tools).makeWork(request.job.settings, {request.password});
+        return doneBy([&](const WorkContext& noting) {
+            workOf<FileProcessor>(work).process(inputFile(request.file), request.destination, noting);
+        });
     }
     WorkerReply operator()(const request::Combine& request) const {
-        const auto work = tool(request.job, tools).makeWork(request.job.settings);
-        workOf<FileCombiner>(work).combine(inputFiles(request.files), request.destination, context);
-        return reply::Done{};
+        const auto work = tool(request.job, tools).makeWork(request.job.settings, {request.password});
+        return doneBy([&](const WorkContext& noting) {
+            workOf<FileCombiner>(work).combine(inputFiles(request.files), request.destination, noting);
+        });
     }
     WorkerReply operator()(const request::Estimate& request) const {
         const auto& estimate = tool(request.job, tools).estimate;
@@ -46,6 +48,17 @@ struct Worker {
         return reply::Estimated{estimate(inputFiles(request.files), request.job.settings, context.stop)};
     }
     WorkerReply operator()(const request::Stop&) const { return reply::Cancelled{}; }
+
+  private:
+    /// Does the work and answers with the note it left.
+    template <typename Work>
+    reply::Done doneBy(const Work& work) const {
+        reply::Done done;
+        WorkContext noting = context;
+        noting.note = [&done](ItemNote left) { done.note = left; };
+        work(noting);
+        return done;
+    }
 };
 
 }  // namespace

@@ -29,10 +29,11 @@ bool hasConnection() {
 }
 
 std::optional<SandboxPolicy> policyFrom(std::span<char* const> arguments) {
-    if (arguments.size() != 3 || !hasConnection()) return std::nullopt;
+    const bool mayStartPrograms = arguments.size() == 4 && arguments[3] == workerMayStartPrograms;
+    if ((arguments.size() != 3 && !mayStartPrograms) || !hasConnection()) return std::nullopt;
     const std::filesystem::path writable(arguments[1]);
     const std::string_view memory(arguments[2]);
-    SandboxPolicy policy;
+    SandboxPolicy policy{.mayStartPrograms = mayStartPrograms};
     if (!writable.empty()) policy.writable.push_back(writable);
     const auto [end, error] =
         std::from_chars(memory.data(), memory.data() + memory.size(), policy.memoryLimit);
@@ -41,7 +42,8 @@ std::optional<SandboxPolicy> policyFrom(std::span<char* const> arguments) {
     return policy;
 }
 
-/// Large pictures go back to the system at once: the allocator would keep the room of the largest for the next.
+/// Large pictures go back to the system at once: the allocator would keep the room of the largest for the
+/// next.
 void returnLargeBlocks() {
     constexpr int threshold = 16 << 20;
     ::mallopt(M_MMAP_THRESHOLD, threshold);

@@ -1,4 +1,5 @@
 #include <Tamble/CommandLine/Arguments/CommandTable.h>
+#include <Tamble/CommandLine/Arguments/PasswordArguments.h>
 #include <Tamble/CommandLine/Arguments/SettingsArguments.h>
 
 #include <TambleCore/Catalog/ToolCatalog.h>
@@ -113,6 +114,7 @@ CommandDescription toolCommand(const ToolDefinition& tool) {
     if (const ToolInfo* info = ToolCatalog::withID(tool.id)) {
         command.summary = localized(info->title) + ": " + localized(info->subtitle);
     }
+    std::ranges::copy(passwordOptions(tool.password), std::back_inserter(command.options));
     std::ranges::copy(savingOptions(), std::back_inserter(command.options));
     std::ranges::copy(runningOptions(), std::back_inserter(command.options));
     return command;

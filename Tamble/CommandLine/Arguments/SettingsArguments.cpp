@@ -40,7 +40,8 @@ CommandOption optionOf(const SettingType& type, std::string name, std::string he
     return option;
 }
 
-Json parsedValue(const SettingField& field, const ParsedArguments::Given& given) {
+Json parsedValue(const SettingField& field, const ParsedArguments::Given& given, const Json& present) {
+    if (field.hint.parse != nullptr) return field.hint.parse(given.value, present);
     if (given.option == field.flag()) {
         return settingValue(field.type, field.type.kind == SettingKind::boolean && given.value.empty()
                                             ? "true"
@@ -53,8 +54,10 @@ Json parsedValue(const SettingField& field, const ParsedArguments::Given& given)
 }
 
 /// The changes that one option asks for; nothing for an option that is no setting.
-std::optional<Json> changesOf(const SettingsSchema& schema, const ParsedArguments::Given& given) {
+std::optional<Json> changesOf(const SettingsSchema& schema, const ParsedArguments::Given& given,
+                              const Json& settings) {
     for (const auto& field : schema.fields) {
+        if (!field.hint.isOffered) continue;
         Json changes = Json::object();
         if (field.type.kind == SettingKind::boolean &&
             given.option == std::string(offPrefix) + field.flag()) {
@@ -65,7 +68,7 @@ std::optional<Json> changesOf(const SettingsSchema& schema, const ParsedArgument
             (field.hint.shortFlag.empty() || given.option != field.hint.shortFlag)) {
             continue;
         }
-        changes[field.name] = parsedValue(field, given);
+        changes[field.name] = parsedValue(field, given, settings.value(field.name, Json()));
         return changes;
     }
     return std::nullopt;
@@ -111,7 +114,15 @@ std::string flagFor(const SettingField& field, const Json& value) {
 std::vector<CommandOption> settingOptions(const SettingsSchema& schema) {
     std::vector<CommandOption> options;
     for (const auto& field : schema.fields) {
+        if (!field.hint.isOffered) continue;
         const std::string help = localized(field.hint.help);
+        if (field.hint.parse != nullptr) {
+            options.push_back({.name = field.flag(),
+                               .value = std::string(field.hint.syntax),
+                               .help = help,
+                               .completes = Completes::files});
+            continue;
+        }
         if (field.hint.shortFlag.empty()) {
             options.push_back(optionOf(field.type, field.flag(), help));
             continue;
@@ -142,7 +153,7 @@ Json settingsFrom(const ToolDefinition& tool, const ParsedArguments& arguments) 
     }
     for (const auto& given : arguments.options) {
         try {
-            if (const auto changes = changesOf(tool.schema, given))
+            if (const auto changes = changesOf(tool.schema, given, settings))
                 settings = tool.schema.merged(settings, *changes);
         } catch (const SettingError& error) {
             throw UsageError(fmt::format("--{}: {}", given.option, error.what()));

@@ -14,9 +14,9 @@ bool worksInProcess() {
 
 }  // namespace
 
-ToolWork protectedWork(const ToolDefinition& tool, const Json& settings) {
-    if (worksInProcess()) return tool.makeWork(settings);
-    return isolatedWork(tool, settings, std::make_shared<WorkerPool>());
+ToolWork protectedWork(const ToolDefinition& tool, const Json& settings, const Secrets& secrets) {
+    if (worksInProcess()) return tool.makeWork(settings, secrets);
+    return isolatedWork(tool, settings, secrets, std::make_shared<WorkerPool>());
 }
 
 std::optional<std::int64_t> protectedEstimate(const ToolDefinition& tool, std::span<const InputFile> files,

@@ -4,9 +4,9 @@
 
 namespace tamble {
 
-/// The tool's work with these settings, done in worker processes; with TAMBLE_IN_PROCESS=1 in the environment, which
-/// is there for measuring and debugging, in this one.
-ToolWork protectedWork(const ToolDefinition& tool, const Json& settings);
+/// The tool's work with these settings, done in worker processes; with TAMBLE_IN_PROCESS=1 in the
+/// environment, which is there for measuring and debugging, in this one.
+ToolWork protectedWork(const ToolDefinition& tool, const Json& settings, const Secrets& secrets);
 
 /// The tool's estimate, made where protectedWork() does its work.
 std::optional<std::int64_t> protectedEstimate(const ToolDefinition& tool, std::span<const InputFile> files,

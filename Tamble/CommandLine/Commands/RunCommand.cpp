@@ -1,5 +1,6 @@
 #include <Tamble/CommandLine/Arguments/InputPaths.h>
 #include <Tamble/CommandLine/Arguments/JobArguments.h>
+#include <Tamble/CommandLine/Arguments/PasswordArguments.h>
 #include <Tamble/CommandLine/Arguments/SettingsArguments.h>
 #include <Tamble/CommandLine/Arguments/UsageError.h>
 #include <Tamble/CommandLine/Commands/Commands.h>
@@ -35,9 +36,14 @@ struct TypedJob {
 
 TypedJob jobRequest(const ToolDefinition& tool, const CommandDescription& command,
                     const ParsedArguments& arguments) {
-    TypedJob request{.work = protectedWork(tool, settingsFrom(tool, arguments)),
-                     .configuration = jobConfiguration(arguments),
-                     .paths = inputPaths(command, arguments, std::cin),
+    const Json settings = settingsFrom(tool, arguments);
+    const JobConfiguration configuration = jobConfiguration(arguments);
+    auto paths = inputPaths(command, arguments, std::cin);
+    // A dry run opens nothing.
+    const Secrets secrets = arguments.has("dry-run") ? Secrets{} : secretsFrom(tool, arguments, std::cin);
+    TypedJob request{.work = protectedWork(tool, settings, secrets),
+                     .configuration = configuration,
+                     .paths = std::move(paths),
                      .scanOptions = ScanOptions(!arguments.has("no-subfolders")),
                      .isDryRun = arguments.has("dry-run"),
                      .wantsJson = arguments.has("json")};

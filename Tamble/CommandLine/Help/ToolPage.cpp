@@ -1,4 +1,5 @@
 #include <Tamble/CommandLine/Arguments/CommandTable.h>
+#include <Tamble/CommandLine/Arguments/PasswordArguments.h>
 #include <Tamble/CommandLine/Arguments/SettingsArguments.h>
 #include <Tamble/CommandLine/Help/HelpPages.h>
 
@@ -42,8 +43,10 @@ HelpSection panelSection(const ToolDefinition& tool, const PanelSection& section
         case PanelControl::number:
             shown.entries.push_back(numberEntry(tool, section));
             break;
+        case PanelControl::password:
         case PanelControl::note:
             break;
+        case PanelControl::text:
         case PanelControl::cards:
         case PanelControl::segments:
         case PanelControl::toggle:
@@ -105,6 +108,8 @@ HelpPage toolPage(const ToolInfo& info, const ToolDefinition& tool) {
                   .usage = {fmt::format("tamble {} PATH… [options]", tool.id)},
                   .sections = panelSections(tool)};
     page.sections.push_back(settingsSection(tool));
+    if (tool.password != PasswordUse::none)
+        page.sections.push_back(optionSection("The password", passwordOptions(tool.password)));
     page.sections.push_back(optionSection("Where new files go", savingOptions()));
     page.sections.push_back(optionSection("The job", runningOptions()));
     return page;

@@ -25,6 +25,7 @@ class WatchedProcessor final : public FileProcessor {
     }
     bool canReplaceOriginals() const override { return inner_.canReplaceOriginals(); }
     bool keepsModificationTime() const override { return inner_.keepsModificationTime(); }
+    WorkNeeds needs() const override { return inner_.needs(); }
 
   private:
     const FileProcessor& inner_;

@@ -59,10 +59,12 @@ std::string_view noteSentence(ItemNote note) {
             return "There is no Bin for this disk, so the original was kept and the new file saved beside "
                    "it.";
         case ItemNote::existingKeptNoBin:
+            return "There is no Bin for this disk, so the existing file was kept and the new file saved with "
+                   "a number.";
+        case ItemNote::sealBroken:
             break;
     }
-    return "There is no Bin for this disk, so the existing file was kept and the new file saved with a "
-           "number.";
+    return "This PDF is digitally signed. The new file is a changed one, so the seal no longer holds for it.";
 }
 
 std::string joined(const std::vector<std::string>& parts) {

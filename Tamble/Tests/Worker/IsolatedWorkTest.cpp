@@ -22,7 +22,7 @@ TEST_F(IsolationTest, DoesTheToolsWorkElsewhereAndItsPlanningHere) {
 TEST_F(IsolationTest, CombinesAndEstimates) {
     const auto& tool = *misbehavingTool("test.all");
     const auto work = std::get<std::unique_ptr<FileCombiner>>(
-        isolatedWork(tool, encodeJson(MisbehavingSettings{}), pool()));
+        isolatedWork(tool, encodeJson(MisbehavingSettings{}), {}, pool()));
     const std::vector files{input("a", "one "), input("b", "two")};
     work->combine(files, staging() / "all.out", {});
     EXPECT_EQ(contentOf(staging() / "all.out"), "one two");
@@ -130,12 +130,12 @@ TEST_F(IsolationTest, EachStagingFolderHasItsOwnWorkers) {
 TEST_F(IsolationTest, AMissingWorkerProgramIsAFailureOfItsOwn) {
     const auto absent = std::make_shared<WorkerPool>(limits_, folder() / "absent");
     const auto work = std::get<std::unique_ptr<FileProcessor>>(
-        isolatedWork(*misbehavingTool("test.each"), encodeJson(MisbehavingSettings{}), absent));
+        isolatedWork(*misbehavingTool("test.each"), encodeJson(MisbehavingSettings{}), {}, absent));
     EXPECT_EQ(outcomeOf(*work, input("a"), staging() / "a"), "failed: workerUnavailable");
     // One that starts but is none.
     const auto wrong = std::make_shared<WorkerPool>(limits_, "/bin/true");
     const auto other = std::get<std::unique_ptr<FileProcessor>>(
-        isolatedWork(*misbehavingTool("test.each"), encodeJson(MisbehavingSettings{}), wrong));
+        isolatedWork(*misbehavingTool("test.each"), encodeJson(MisbehavingSettings{}), {}, wrong));
     EXPECT_EQ(outcomeOf(*other, input("a"), staging() / "a"), "failed: workerUnavailable");
 }
 

@@ -40,7 +40,7 @@ class IsolationTest : public testing::Test {
 
     std::unique_ptr<FileProcessor> processor(const MisbehavingSettings& settings = {}) {
         return std::get<std::unique_ptr<FileProcessor>>(
-            isolatedWork(*misbehavingTool("test.each"), encodeJson(settings), pool()));
+            isolatedWork(*misbehavingTool("test.each"), encodeJson(settings), {}, pool()));
     }
 
     /// How the item ended, in a word or two.

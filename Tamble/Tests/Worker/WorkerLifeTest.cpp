@@ -51,7 +51,7 @@ bool eventually(const std::function<bool()>& condition) {
 TEST_F(IsolationTest, WorkersAreUsedAgainAndEndWithThePool) {
     auto shared = std::make_shared<WorkerPool>(limits_, MISBEHAVING_WORKER);
     EXPECT_THAT(childrenOf(::getpid()), testing::IsEmpty());
-    auto work = isolatedWork(*misbehavingTool("test.each"), encodeJson(MisbehavingSettings{}), shared);
+    auto work = isolatedWork(*misbehavingTool("test.each"), encodeJson(MisbehavingSettings{}), {}, shared);
     const auto& processor = *std::get<std::unique_ptr<FileProcessor>>(work);
     EXPECT_EQ(outcomeOf(processor, input("a"), staging() / "a"), "done");
     const auto first = childrenOf(::getpid());

@@ -1,5 +1,6 @@
 #include <TambleCore/Catalog/ToolFamilies.h>
 #include <TambleCore/Images/ImageTools.h>
+#include <TambleCore/PDF/PDFTools.h>
 
 #include <iterator>
 
@@ -7,7 +8,7 @@ namespace tamble {
 
 std::vector<ToolDefinition> toolDefinitions() {
     std::vector<ToolDefinition> definitions;
-    for (auto* family : {&imageTools}) {
+    for (auto* family : {&imageTools, &pdfTools}) {
         std::ranges::move(family(), std::back_inserter(definitions));
     }
     return definitions;

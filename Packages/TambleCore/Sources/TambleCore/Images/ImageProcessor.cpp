@@ -1,5 +1,6 @@
 #include <TambleCore/Images/ImageProcessor.h>
 #include <TambleCore/Intake/FileTypes.h>
+#include <TambleCore/Jobs/RequireSmaller.h>
 
 namespace tamble {
 namespace {
@@ -47,12 +48,7 @@ void ImageProcessor::process(const InputFile& file, const std::filesystem::path&
                              const WorkContext& context) const {
     context.throwIfStopped();
     converter_.convert(file.url, destination, settings_, targetFormat(file), context);
-    if (!settings_.skipIfNotSmaller || file.byteSize <= 0) return;
-    std::error_code unmeasurable;
-    const auto newSize = std::filesystem::file_size(destination, unmeasurable);
-    if (unmeasurable || std::cmp_less(newSize, file.byteSize)) return;
-    std::filesystem::remove(destination, unmeasurable);
-    throw ProcessorSkip(skip::NotSmaller{});
+    if (settings_.skipIfNotSmaller) requireSmaller(file, destination);
 }
 
 bool ImageProcessor::keepsModificationTime() const {

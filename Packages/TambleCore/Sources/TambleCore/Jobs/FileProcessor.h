@@ -2,6 +2,7 @@
 
 #include <TambleCore/Intake/InputFile.h>
 #include <TambleCore/Jobs/SkipReason.h>
+#include <TambleCore/Jobs/WorkNeeds.h>
 #include <TambleCore/Support/WorkContext.h>
 
 #include <span>
@@ -29,6 +30,7 @@ class FileProcessor {
     /// Whether the output is the same picture, page or recording as the input, and so keeps its modification
     /// time.
     virtual bool keepsModificationTime() const { return false; }
+    virtual WorkNeeds needs() const { return {}; }
 };
 
 /// A tool that makes one output of many inputs.
@@ -42,6 +44,7 @@ class FileCombiner {
     /// Writes exactly one file at `destination`; throws as FileProcessor::process does.
     virtual void combine(std::span<const InputFile> files, const std::filesystem::path& destination,
                          const WorkContext& context) const = 0;
+    virtual WorkNeeds needs() const { return {}; }
 };
 
 }  // namespace tamble

@@ -82,12 +82,15 @@ std::vector<StageOutcome> ItemProcessing::processAll(std::span<const InputFile> 
             return failed("cannotCreateFolder", "No staging folder");
         }
         const auto report = [&](double fraction) { tracker.update(index, fraction); };
-        watching({&input, 1}, [&] { processor.process(file, place, {.progress = report, .stop = stop}); });
+        std::optional<ItemNote> note;
+        const WorkContext context{
+            .progress = report, .stop = stop, .note = [&note](ItemNote left) { note = left; }};
+        watching({&input, 1}, [&] { processor.process(file, place, context); });
         if (stop.stop_requested()) return outcome::Cancelled{};
         if (!isThere(place)) return failed("noOutput", "Processor finished without writing a file");
         keepAttributes({&file, 1}, place,
                        processor.keepsModificationTime() ? OutputTime::ofOriginal : OutputTime::now);
-        return Staged{input.original()};
+        return Staged{.original = input.original(), .note = note};
     };
 
     std::vector<StageOutcome> outcomes(files.size());
@@ -125,11 +128,14 @@ StageOutcome ItemProcessing::combine(std::span<const InputFile> files, const Fil
             return failed("cannotCreateFolder", "No staging folder");
         }
         const auto report = [&](double fraction) { tracker.update(0, fraction); };
-        watching(inputs, [&] { combiner.combine(files, place, {.progress = report, .stop = stop}); });
+        std::optional<ItemNote> note;
+        const WorkContext context{
+            .progress = report, .stop = stop, .note = [&note](ItemNote left) { note = left; }};
+        watching(inputs, [&] { combiner.combine(files, place, context); });
         if (stop.stop_requested()) return outcome::Cancelled{};
         if (!isThere(place)) return failed("noOutput", "Combiner finished without writing a file");
         keepAttributes(files, place, OutputTime::now);
-        return Staged{};
+        return Staged{.note = note};
     };
     StageOutcome result = outcomeOf(work, stop);
     tracker.finish(0);

@@ -11,8 +11,11 @@ namespace tamble {
 
 /// The output waits in its staging place.
 struct Staged {
-    /// What the original was like before the work on it began; empty for an output of several.
+    /// What the original was like when it was read; it goes to the Bin only as long as it is still so. Empty
+    /// for an output of several.
     std::optional<FileState> original = {};
+    /// What the tool has to say about the output.
+    std::optional<ItemNote> note = {};
 };
 /// How the processing of one item ended.
 using StageOutcome = std::variant<Staged, outcome::Skipped, outcome::Failed, outcome::Cancelled>;

@@ -136,7 +136,7 @@ JobResult JobEngine::run(std::vector<InputFile> files, const FileProcessor& proc
     SavingPhase saving(*fileOps, journal.get(), planner, configuration.clashPolicy, staging);
     for (std::size_t i = 0; i < files.size(); ++i) {
         if (const auto* staged = std::get_if<Staged>(&outcomes[i]))
-            saving.plan(i, files[i], processor.outputName(files[i]), staged->original);
+            saving.plan(i, files[i], processor.outputName(files[i]), *staged);
     }
     JobResult result = resultOf(std::move(files), std::move(outcomes));
     int dealtWith = 0;
@@ -170,11 +170,11 @@ JobResult JobEngine::runCombined(std::vector<InputFile> files, const FileCombine
     if (stop.stop_requested()) {
         engineLog.notice("Combine job cancelled before saving; nothing was saved");
         result.wasCancelled = true;
-    } else if (std::holds_alternative<Staged>(combined)) {
+    } else if (const auto* staged = std::get_if<Staged>(&combined)) {
         tracker.saving(0);
         SavePlanner planner(outputs.location, configuration.clashPolicy, Originals::stay, files);
         SavingPhase saving(*fileOps, journal.get(), planner, configuration.clashPolicy, staging);
-        saving.plan(0, files.front(), combiner.outputName(files), std::nullopt);
+        saving.plan(0, files.front(), combiner.outputName(files), *staged);
         saving.saveAll([&](std::size_t, ItemOutcome saved) { common = std::move(saved); });
         result.undo = saving.finish();
     } else {

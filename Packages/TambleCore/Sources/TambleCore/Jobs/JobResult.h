@@ -3,6 +3,7 @@
 #include <TambleCore/Intake/InputFile.h>
 #include <TambleCore/Jobs/SkipReason.h>
 #include <TambleCore/Jobs/UndoRecord.h>
+#include <TambleCore/Support/ItemNote.h>
 
 namespace tamble {
 
@@ -19,14 +20,6 @@ struct ItemFailure {
     friend bool operator==(const ItemFailure&, const ItemFailure&) = default;
 };
 BOOST_DESCRIBE_STRUCT(ItemFailure, (), (stage, code, detail))
-
-/// Something to know about an item that was saved.
-enum class ItemNote {
-    originalKeptNoBin,  ///< the original could not go to the Bin: it was kept and the new file saved beside
-                        ///< it
-    existingKeptNoBin,  ///< the clashing file could not go to the Bin: the new file was saved with a number
-};
-BOOST_DESCRIBE_ENUM(ItemNote, originalKeptNoBin, existingKeptNoBin)
 
 namespace outcome {
 struct Done {

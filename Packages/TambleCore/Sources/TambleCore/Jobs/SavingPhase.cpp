@@ -10,8 +10,8 @@ SavingPhase::SavingPhase(FileOperations& fileOps, JobJournal* journal, SavePlann
     : journal_(journal), planner_(planner), staging_(staging), saver_(fileOps, journal, planner, policy) {}
 
 void SavingPhase::plan(std::size_t index, const InputFile& file, const std::string& outputName,
-                       const std::optional<FileState>& original) {
-    waiting_.push_back({index, planner_.next(file, outputName), original});
+                       const Staged& staged) {
+    waiting_.push_back({index, planner_.next(file, outputName), staged});
 }
 
 void SavingPhase::saveAll(const HandOver& handOver) {
@@ -51,8 +51,13 @@ std::optional<std::string> SavingPhase::announce() const {
 
 ItemOutcome SavingPhase::save(Waiting& waiting) {
     if (auto* skipped = std::get_if<outcome::Skipped>(&waiting.decision)) return std::move(*skipped);
-    return saver_.save(plannedSave(waiting.index, std::get<Placement>(std::move(waiting.decision))),
-                       waiting.original);
+    ItemOutcome saved =
+        saver_.save(plannedSave(waiting.index, std::get<Placement>(std::move(waiting.decision))),
+                    waiting.staged.original);
+    // What the saver has to say is about where the files are, and goes first.
+    auto* done = std::get_if<outcome::Done>(&saved);
+    if (done != nullptr && !done->note) done->note = waiting.staged.note;
+    return saved;
 }
 
 }  // namespace tamble

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <TambleCore/Jobs/ItemProcessing.h>
 #include <TambleCore/Jobs/JobSaver.h>
 #include <TambleCore/Jobs/StagingArea.h>
 
@@ -15,9 +16,7 @@ class SavingPhase {
     SavingPhase(FileOperations& fileOps, JobJournal* journal, SavePlanner& planner, ClashPolicy policy,
                 StagingArea& staging);
 
-    /// `original`: what it was like when it was read; it goes to the Bin only as long as it is still so.
-    void plan(std::size_t index, const InputFile& file, const std::string& outputName,
-              const std::optional<FileState>& original);
+    void plan(std::size_t index, const InputFile& file, const std::string& outputName, const Staged& staged);
     /// In the order of planning; never throws what is not thrown by `handOver`.
     void saveAll(const HandOver& handOver);
     /// What was changed by all of it.
@@ -27,7 +26,7 @@ class SavingPhase {
     struct Waiting {
         std::size_t index = 0;
         SavePlanner::Decision decision;
-        std::optional<FileState> original;
+        Staged staged;
     };
     PlannedSave plannedSave(std::size_t index, Placement placement) const;
     std::optional<std::string> announce() const;

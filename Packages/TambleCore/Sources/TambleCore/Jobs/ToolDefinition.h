@@ -2,6 +2,7 @@
 
 #include <TambleCore/Intake/FolderScanner.h>
 #include <TambleCore/Jobs/FileProcessor.h>
+#include <TambleCore/Jobs/Secrets.h>
 #include <TambleCore/Support/Failure.h>
 #include <TambleCore/Support/Json/JsonCoding.h>
 #include <TambleCore/Support/Settings/OptionsPanel.h>
@@ -15,6 +16,14 @@ namespace tamble {
 /// What a tool makes of its settings: one output per input, or one of all.
 using ToolWork = std::variant<std::unique_ptr<FileProcessor>, std::unique_ptr<FileCombiner>>;
 
+/// What a tool does with the password among the Secrets.
+enum class PasswordUse {
+    none,
+    opensInputs,  ///< only for inputs that are locked
+    required,     ///< the tool is about it
+    isNew,        ///< the tool sets it
+};
+
 /// Everything that running a tool takes, without knowing its settings record: each family lists its tools as
 /// these values. Settings are the JSON form of the family's record; functions throw DecodeError for settings
 /// that are not.
@@ -24,11 +33,12 @@ struct ToolDefinition {
     SettingsSchema schema;
     OptionsPanel panel;
     ContentPredicate accepts;
-    std::function<ToolWork(const Json& settings)> makeWork;
+    std::function<ToolWork(const Json& settings, const Secrets& secrets)> makeWork;
     /// The expected size in bytes of all outputs, from a few samples; nothing when it cannot be told.
     std::function<std::optional<std::int64_t>(std::span<const InputFile>, const Json& settings,
                                               std::stop_token)>
         estimate = {};
+    PasswordUse password = PasswordUse::none;
 
     /// `settings` brought into the full form of the record: decoded and encoded once.
     std::function<Json(const Json& settings)> normalized;
@@ -41,12 +51,15 @@ struct ToolDefinition {
 /// knows: how its work is made from them. The caller fills in the rest.
 template <DescribedRecord Settings, typename Make>
 ToolDefinition makeToolDefinition(std::string id, const Settings& defaults, Make make) {
-    return {
-        .id = std::move(id),
-        .defaults = encodeJson(defaults),
-        .schema = settingsSchema<Settings>({}),
-        .makeWork = [make](const Json& settings) -> ToolWork { return make(decodeJson<Settings>(settings)); },
-        .normalized = [](const Json& settings) { return encodeJson(decodeJson<Settings>(settings)); }};
+    return {.id = std::move(id),
+            .defaults = encodeJson(defaults),
+            .schema = settingsSchema<Settings>({}),
+            .makeWork = [make](const Json& settings, const Secrets& secrets) -> ToolWork {
+                auto decoded = decodeJson<Settings>(settings);
+                if constexpr (requires { decoded.password; }) decoded.password = secrets.password;
+                return make(decoded);
+            },
+            .normalized = [](const Json& settings) { return encodeJson(decodeJson<Settings>(settings)); }};
 }
 
 }  // namespace tamble

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
+#include <unicode/brkiter.h>
 #include <unicode/casemap.h>
 #include <unicode/normalizer2.h>
 #include <unicode/stringoptions.h>
@@ -87,6 +89,17 @@ std::string_view trimmed(std::string_view text) {
         if (character < 0 || !u_isUWhiteSpace(character)) break;
     }
     return text.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin));
+}
+
+std::size_t characterCount(std::string_view text) {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::BreakIterator> characters(
+        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    if (U_FAILURE(status)) return text.size();
+    characters->setText(icu::UnicodeString::fromUTF8(printable(text)));
+    std::size_t count = 0;
+    while (characters->next() != icu::BreakIterator::DONE) ++count;
+    return count;
 }
 
 std::string kebabCase(std::string_view camelCase) {

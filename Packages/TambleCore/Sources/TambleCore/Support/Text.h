@@ -22,6 +22,10 @@ std::string printable(std::string_view bytes);
 /// The text without white space and line breaks (Unicode White_Space) at both ends.
 std::string_view trimmed(std::string_view text);
 
+/// How many characters as people count them (Unicode's grapheme clusters). Bytes that are not UTF-8 count one
+/// each.
+std::size_t characterCount(std::string_view text);
+
 /// "removeAllMetadata" → "remove-all-metadata".
 std::string kebabCase(std::string_view camelCase);
 

@@ -3,10 +3,10 @@
 #include <TambleCore/Jobs/ToolDefinition.h>
 #include <TambleCore/Platform/SystemFileOperations.h>
 
-#include <gtest/gtest.h>
-
 #include <fstream>
 #include <sstream>
+
+#include <gtest/gtest.h>
 
 namespace tamble {
 
@@ -25,7 +25,7 @@ TEST(AddATool, TheCodeOfTheArchitecturePageIsATool) {
     const ToolDefinition tool = headTool();
     const Json settings =
         tool.normalized(tool.schema.merged(tool.defaults, {{"lines", 2}, {"skipEmptyLines", true}}));
-    const auto work = std::get<std::unique_ptr<FileProcessor>>(tool.makeWork(settings));
+    const auto work = std::get<std::unique_ptr<FileProcessor>>(tool.makeWork(settings, {}));
     const JobEngine engine{.fileOps = std::make_shared<SystemFileOperations>()};
     const JobResult result = engine.run(files, *work, {});
 

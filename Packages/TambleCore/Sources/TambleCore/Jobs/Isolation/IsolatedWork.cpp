@@ -9,16 +9,19 @@ namespace {
 /// What both kinds of work share: how a request is done and its end is told.
 class Isolation {
   public:
-    Isolation(const ToolDefinition& tool, const Json& settings, std::shared_ptr<WorkerPool> pool)
-        : job_{tool.id, settings}, unreadable_(tool.unreadable), pool_(std::move(pool)) {}
+    Isolation(const ToolDefinition& tool, const Json& settings, const Secrets& secrets,
+              std::shared_ptr<WorkerPool> pool)
+        : job_{tool.id, settings}, secrets_(secrets), unreadable_(tool.unreadable), pool_(std::move(pool)) {}
 
     const JobRequest& job() const { return job_; }
+    const std::string& password() const { return secrets_.password; }
 
     void perform(const WorkerRequest& request, const std::filesystem::path& destination,
-                 const WorkContext& context) const {
+                 const WorkNeeds& needs, const WorkContext& context) const {
         try {
-            const auto reply = pool_->perform(request, stagingFolder(destination), context);
-            std::visit([this](const auto& end) { conclude(end); }, reply);
+            const auto reply =
+                pool_->perform(request, {.writable = stagingFolder(destination), .needs = needs}, context);
+            std::visit([&](const auto& end) { conclude(end, context); }, reply);
         } catch (const WorkerLost& lost) {
             removeRemains(destination);
             throw unreadable(lost.what());
@@ -38,23 +41,28 @@ class Isolation {
         return {unreadable_.code(), unreadable_.sentence(), std::move(detail)};
     }
 
-    void conclude(const reply::Done&) const {}
-    void conclude(const reply::Skipped& end) const { throw ProcessorSkip(end.value); }
-    void conclude(const reply::Cancelled&) const { throw Cancelled(); }
-    void conclude(const reply::Failed& end) const { throw Failure(end.code, end.sentence, end.detail); }
-    void conclude(const reply::Threw& end) const {
+    void conclude(const reply::Done& end, const WorkContext& context) const {
+        if (end.note) context.leave(*end.note);
+    }
+    void conclude(const reply::Skipped& end, const WorkContext&) const { throw ProcessorSkip(end.value); }
+    void conclude(const reply::Cancelled&, const WorkContext&) const { throw Cancelled(); }
+    void conclude(const reply::Failed& end, const WorkContext&) const {
+        throw Failure(end.code, end.sentence, end.detail);
+    }
+    void conclude(const reply::Threw& end, const WorkContext&) const {
         if (end.systemError) throw std::system_error(*end.systemError, std::system_category(), end.value);
         throw std::runtime_error(end.value);
     }
-    void conclude(const reply::OutOfMemory&) const {
+    void conclude(const reply::OutOfMemory&, const WorkContext&) const {
         throw WorkerLost("The file takes more memory than a worker has.");
     }
     template <typename Unexpected>
-    void conclude(const Unexpected&) const {
+    void conclude(const Unexpected&, const WorkContext&) const {
         throw WorkerLost("The worker answered what it was not asked.");
     }
 
     JobRequest job_;
+    Secrets secrets_;
     Failure unreadable_;
     std::shared_ptr<WorkerPool> pool_;
 };
@@ -71,11 +79,13 @@ class IsolatedProcessor final : public FileProcessor {
     }
     bool canReplaceOriginals() const override { return inner_->canReplaceOriginals(); }
     bool keepsModificationTime() const override { return inner_->keepsModificationTime(); }
+    WorkNeeds needs() const override { return inner_->needs(); }
 
     void process(const InputFile& file, const std::filesystem::path& destination,
                  const WorkContext& context) const override {
-        isolation_.perform(request::Process{isolation_.job(), messageOf(file), destination}, destination,
-                           context);
+        isolation_.perform(
+            request::Process{isolation_.job(), isolation_.password(), messageOf(file), destination},
+            destination, inner_->needs(), context);
     }
 
   private:
@@ -95,8 +105,9 @@ class IsolatedCombiner final : public FileCombiner {
 
     void combine(std::span<const InputFile> files, const std::filesystem::path& destination,
                  const WorkContext& context) const override {
-        isolation_.perform(request::Combine{isolation_.job(), messagesOf(files), destination}, destination,
-                           context);
+        isolation_.perform(
+            request::Combine{isolation_.job(), isolation_.password(), messagesOf(files), destination},
+            destination, inner_->needs(), context);
     }
 
   private:
@@ -114,10 +125,11 @@ ToolWork wrapped(std::unique_ptr<FileCombiner> inner, Isolation isolation) {
 
 }  // namespace
 
-ToolWork isolatedWork(const ToolDefinition& tool, const Json& settings, std::shared_ptr<WorkerPool> pool) {
-    Isolation isolation(tool, settings, std::move(pool));
+ToolWork isolatedWork(const ToolDefinition& tool, const Json& settings, const Secrets& secrets,
+                      std::shared_ptr<WorkerPool> pool) {
+    Isolation isolation(tool, settings, secrets, std::move(pool));
     return std::visit([&isolation](auto&& inner) { return wrapped(std::move(inner), std::move(isolation)); },
-                      tool.makeWork(settings));
+                      tool.makeWork(settings, secrets));
 }
 
 std::optional<std::int64_t> isolatedEstimate(const ToolDefinition& tool, std::span<const InputFile> files,

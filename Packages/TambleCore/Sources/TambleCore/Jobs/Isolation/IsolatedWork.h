@@ -10,7 +10,8 @@ namespace tamble {
 /// The tool's work with these settings, done by the pool's workers. Throws DecodeError as
 /// ToolDefinition::makeWork does. The work throws the tool's own failures; when a worker is lost with a file,
 /// ToolDefinition::unreadable.
-ToolWork isolatedWork(const ToolDefinition& tool, const Json& settings, std::shared_ptr<WorkerPool> pool);
+ToolWork isolatedWork(const ToolDefinition& tool, const Json& settings, const Secrets& secrets,
+                      std::shared_ptr<WorkerPool> pool);
 
 /// ToolDefinition::estimate, done by a worker; nothing also when the worker is lost or cannot be started.
 std::optional<std::int64_t> isolatedEstimate(const ToolDefinition& tool, std::span<const InputFile> files,

@@ -3,6 +3,7 @@
 #include <TambleCore/Intake/InputFile.h>
 #include <TambleCore/Jobs/Isolation/JobRequest.h>
 #include <TambleCore/Jobs/SkipReason.h>
+#include <TambleCore/Support/ItemNote.h>
 
 #include <span>
 
@@ -34,18 +35,22 @@ namespace request {
 struct Process {
     static constexpr std::string_view caseName = "process";
     JobRequest job;
+    /// See Secrets.
+    std::string password;
     FileMessage file;
     std::filesystem::path destination;
 };
-BOOST_DESCRIBE_STRUCT(Process, (), (job, file, destination))
+BOOST_DESCRIBE_STRUCT(Process, (), (job, password, file, destination))
 /// FileCombiner::combine.
 struct Combine {
     static constexpr std::string_view caseName = "combine";
     JobRequest job;
+    /// See Secrets.
+    std::string password;
     std::vector<FileMessage> files;
     std::filesystem::path destination;
 };
-BOOST_DESCRIBE_STRUCT(Combine, (), (job, files, destination))
+BOOST_DESCRIBE_STRUCT(Combine, (), (job, password, files, destination))
 /// ToolDefinition::estimate.
 struct Estimate {
     static constexpr std::string_view caseName = "estimate";
@@ -82,8 +87,9 @@ BOOST_DESCRIBE_STRUCT(Progress, (), (value))
 // Each request but Stop is answered by exactly one of the following.
 struct Done {
     static constexpr std::string_view caseName = "done";
+    std::optional<ItemNote> note = {};
 };
-BOOST_DESCRIBE_STRUCT(Done, (), ())
+BOOST_DESCRIBE_STRUCT(Done, (), (note))
 struct Estimated {
     static constexpr std::string_view caseName = "estimated";
     std::optional<std::int64_t> value;
@@ -127,6 +133,10 @@ using WorkerReply = std::variant<reply::Ready, reply::Progress, reply::Done, rep
 /// The longest message each side takes: a request may list a hundred thousand files, a reply is a few lines.
 inline constexpr std::size_t longestRequest = std::size_t{256} << 20U;
 inline constexpr std::size_t longestReply = std::size_t{1} << 20U;
+
+/// A worker's last argument when it may start programs, behind the folder it may write in and its bytes of
+/// memory.
+inline constexpr std::string_view workerMayStartPrograms = "programs";
 
 /// The descriptor under which a worker finds its connection to the program.
 inline constexpr int workerConnection = 3;

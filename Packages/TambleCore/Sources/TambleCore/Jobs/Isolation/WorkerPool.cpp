@@ -36,17 +36,19 @@ WorkerPool::WorkerPool(WorkerLimits limits, std::filesystem::path program)
 
 WorkerPool::~WorkerPool() = default;
 
-WorkerReply WorkerPool::perform(const WorkerRequest& request, const std::filesystem::path& writable,
+WorkerReply WorkerPool::perform(const WorkerRequest& request, const WorkerPermit& permit,
                                 const WorkContext& context) {
     context.throwIfStopped();
-    auto worker = take(writable);
+    auto worker = take(permit);
+    WorkerLimits limits = limits_;
+    limits.processor = std::min(limits.processor, permit.needs.silence.value_or(limits.processor));
     // A worker whose conversation throws is not used again.
-    auto reply = Conversation(*worker, limits_, context).about(request);
+    auto reply = Conversation(*worker, limits, context).about(request);
     giveBack(std::move(worker));
     return reply;
 }
 
-std::unique_ptr<WorkerProcess> WorkerPool::take(const std::filesystem::path& writable) {
+std::unique_ptr<WorkerProcess> WorkerPool::take(const WorkerPermit& permit) {
     std::vector<std::unique_ptr<WorkerProcess>> discarded;
     {
         const std::scoped_lock lock(mutex_);
@@ -55,7 +57,7 @@ std::unique_ptr<WorkerProcess> WorkerPool::take(const std::filesystem::path& wri
             std::ranges::partition(idle_, [](const auto& worker) { return worker->isQuiet(); });
         std::ranges::move(spoilt, std::back_inserter(discarded));
         idle_.erase(spoilt.begin(), spoilt.end());
-        const auto fitting = std::ranges::find(idle_, writable, &WorkerProcess::writable);
+        const auto fitting = std::ranges::find(idle_, permit, &WorkerProcess::permit);
         if (fitting != idle_.end()) {
             auto worker = std::move(*fitting);
             idle_.erase(fitting);
@@ -67,14 +69,15 @@ std::unique_ptr<WorkerProcess> WorkerPool::take(const std::filesystem::path& wri
             idle_.erase(idle_.begin());
         }
     }
-    return startWorker(writable);
+    return startWorker(permit);
 }
 
-std::unique_ptr<WorkerProcess> WorkerPool::startWorker(const std::filesystem::path& writable) const {
+std::unique_ptr<WorkerProcess> WorkerPool::startWorker(const WorkerPermit& permit) const {
     const auto program = program_.empty() ? workerExecutable() : program_;
     if (!program) throw WorkerUnavailable("The worker program is missing.");
     try {
-        auto worker = std::make_unique<WorkerProcess>(*program, writable, limits_.memory);
+        auto worker = std::make_unique<WorkerProcess>(
+            *program, permit, std::min(limits_.memory, permit.needs.memory.value_or(limits_.memory)));
         const auto ready = Conversation(*worker, limits_, {}).greeting();
         workerLog.notice("Worker started; files confined: {}, calls confined: {}", ready.confinesFiles,
                          ready.confinesCalls);

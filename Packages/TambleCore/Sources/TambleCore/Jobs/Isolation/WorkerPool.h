@@ -1,6 +1,7 @@
 #pragma once
 
 #include <TambleCore/Jobs/Isolation/WorkerMessage.h>
+#include <TambleCore/Jobs/WorkNeeds.h>
 #include <TambleCore/Support/Failure.h>
 #include <TambleCore/Support/WorkContext.h>
 
@@ -32,6 +33,15 @@ struct WorkerLimits {
     static std::uint64_t defaultMemory();
 };
 
+/// What one worker is allowed for good.
+struct WorkerPermit {
+    /// It may write only below this folder, or nowhere if that is empty.
+    std::filesystem::path writable;
+    WorkNeeds needs = {};
+
+    friend bool operator==(const WorkerPermit&, const WorkerPermit&) = default;
+};
+
 /// A worker died, hung or answered nonsense; it has been ended.
 class WorkerLost : public std::exception {
   public:
@@ -60,15 +70,13 @@ class WorkerPool {
     WorkerPool(const WorkerPool&) = delete;
     WorkerPool& operator=(const WorkerPool&) = delete;
 
-    /// Has a worker do the request and answers its last reply. The worker may write only below `writable`, or
-    /// nowhere if that is empty. Throws WorkerLost, WorkerUnavailable, and Cancelled when a stop request had
-    /// to be enforced. To be called from several threads.
-    WorkerReply perform(const WorkerRequest& request, const std::filesystem::path& writable,
-                        const WorkContext& context);
+    /// Has a worker do the request and answers its last reply. Throws WorkerLost, WorkerUnavailable, and
+    /// Cancelled when a stop request had to be enforced. To be called from several threads.
+    WorkerReply perform(const WorkerRequest& request, const WorkerPermit& permit, const WorkContext& context);
 
   private:
-    std::unique_ptr<WorkerProcess> take(const std::filesystem::path& writable);
-    std::unique_ptr<WorkerProcess> startWorker(const std::filesystem::path& writable) const;
+    std::unique_ptr<WorkerProcess> take(const WorkerPermit& permit);
+    std::unique_ptr<WorkerProcess> startWorker(const WorkerPermit& permit) const;
     void giveBack(std::unique_ptr<WorkerProcess> worker);
 
     WorkerLimits limits_;

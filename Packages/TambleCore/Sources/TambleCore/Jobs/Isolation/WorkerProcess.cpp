@@ -103,9 +103,9 @@ std::string endOf(int status) {
 
 }  // namespace
 
-WorkerProcess::WorkerProcess(const std::filesystem::path& program, const std::filesystem::path& writable,
+WorkerProcess::WorkerProcess(const std::filesystem::path& program, const WorkerPermit& permit,
                              std::uint64_t memoryLimit)
-    : writable_(writable), channel_({}, longestReply), wakeUp_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
+    : permit_(permit), channel_({}, longestReply), wakeUp_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
     require(static_cast<bool>(wakeUp_), "eventfd");
     auto connection = connectedSockets();
     auto words = pipeForWords();
@@ -141,8 +141,10 @@ void WorkerProcess::start(const std::filesystem::path& program, std::uint64_t me
     // reach.
     ::posix_spawnattr_setflags(&plan.attributes,
                                POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSID);
-    std::vector<std::string> arguments{program.native(), writable_.native(), std::to_string(memoryLimit)};
-    std::vector<std::string> environment = workerEnvironment(writable_);
+    std::vector<std::string> arguments{program.native(), permit_.writable.native(),
+                                       std::to_string(memoryLimit)};
+    if (permit_.needs.startsPrograms) arguments.emplace_back(workerMayStartPrograms);
+    std::vector<std::string> environment = workerEnvironment(permit_.writable);
     const int error = ::posix_spawn(&process_, program.c_str(), &plan.files, &plan.attributes,
                                     pointers(arguments).data(), pointers(environment).data());
     if (error != 0) {

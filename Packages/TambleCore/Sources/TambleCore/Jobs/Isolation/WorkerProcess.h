@@ -1,6 +1,7 @@
 #pragma once
 
 #include <TambleCore/Jobs/Isolation/MessageChannel.h>
+#include <TambleCore/Jobs/Isolation/WorkerPool.h>
 
 #include <chrono>
 #include <filesystem>
@@ -17,15 +18,15 @@ namespace tamble {
 /// program.
 class WorkerProcess {
   public:
-    /// Starts the program, which may write below `writable` (nowhere if empty) and take `memoryLimit` bytes
-    /// (0: no limit). Throws std::system_error when it cannot be started.
-    WorkerProcess(const std::filesystem::path& program, const std::filesystem::path& writable,
+    /// Starts the program, which may take `memoryLimit` bytes (0: no limit). Throws std::system_error when it
+    /// cannot be started.
+    WorkerProcess(const std::filesystem::path& program, const WorkerPermit& permit,
                   std::uint64_t memoryLimit);
     ~WorkerProcess();
     WorkerProcess(const WorkerProcess&) = delete;
     WorkerProcess& operator=(const WorkerProcess&) = delete;
 
-    const std::filesystem::path& writable() const noexcept { return writable_; }
+    const WorkerPermit& permit() const noexcept { return permit_; }
     pid_t identifier() const noexcept { return process_; }
 
     /// False when the worker is gone or hangs.
@@ -52,7 +53,7 @@ class WorkerProcess {
     void takeWords();
     void logWords(bool all);
 
-    std::filesystem::path writable_;
+    WorkerPermit permit_;
     MessageChannel channel_;
     FileDescriptor words_;
     FileDescriptor wakeUp_;

@@ -14,7 +14,7 @@ void limitResources(const SandboxPolicy& policy);
 /// Confines writing to these folders; answers whether the kernel can.
 bool confineWriting(std::span<const std::filesystem::path> folders);
 
-/// Refuses the system calls that no decoder needs; answers whether the kernel can.
-bool confineCalls();
+/// Refuses the system calls that the policy's work does not need; answers whether the kernel can.
+bool confineCalls(const SandboxPolicy& policy);
 
 }  // namespace tamble::sandbox

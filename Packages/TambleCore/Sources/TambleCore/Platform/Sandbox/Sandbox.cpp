@@ -11,7 +11,7 @@ SandboxReport enterSandbox(const SandboxPolicy& policy) {
     ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
     // Before the calls, since it needs one of those that are refused afterwards.
     const bool files = sandbox::confineWriting(policy.writable);
-    return {.confinesFiles = files, .confinesCalls = sandbox::confineCalls()};
+    return {.confinesFiles = files, .confinesCalls = sandbox::confineCalls(policy)};
 }
 
 }  // namespace tamble

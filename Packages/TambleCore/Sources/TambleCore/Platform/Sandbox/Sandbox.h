@@ -12,6 +12,8 @@ struct SandboxPolicy {
     std::vector<std::filesystem::path> writable;
     /// How many bytes of its own memory it may take (RLIMIT_DATA); 0 for no limit.
     std::uint64_t memoryLimit = 0;
+    /// It may start programs, which stay confined as it is.
+    bool mayStartPrograms = false;
     /// How long a file it may write, in bytes.
     std::uint64_t fileSizeLimit = std::uint64_t{16} << 30U;
 };

@@ -1,6 +1,7 @@
 #include <TambleCore/Platform/Sandbox/Confinement.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <memory>
 #include <vector>
@@ -22,8 +23,6 @@ const std::vector<int>& refused() {
         SCMP_SYS(socket), SCMP_SYS(socketpair), SCMP_SYS(connect), SCMP_SYS(bind), SCMP_SYS(listen),
         SCMP_SYS(accept), SCMP_SYS(accept4), SCMP_SYS(io_uring_setup), SCMP_SYS(io_uring_enter),
         SCMP_SYS(io_uring_register), SCMP_SYS(mq_open), SCMP_SYS(shmget), SCMP_SYS(msgget), SCMP_SYS(semget),
-        // Programs and child processes.
-        SCMP_SYS(execve), SCMP_SYS(execveat), SCMP_SYS(fork), SCMP_SYS(vfork),
         // Other processes.
         SCMP_SYS(ptrace), SCMP_SYS(process_vm_readv), SCMP_SYS(process_vm_writev), SCMP_SYS(process_madvise),
         SCMP_SYS(kcmp), SCMP_SYS(pidfd_open), SCMP_SYS(pidfd_getfd), SCMP_SYS(pidfd_send_signal),
@@ -55,15 +54,21 @@ bool refuse(const Filter& filter, int call, int error, std::vector<scmp_arg_cmp>
     return added == 0 || added == -EDOM;
 }
 
-bool addRules(const Filter& filter) {
+/// Programs and child processes; threads stay possible. Newer C libraries make them with clone3, whose flags
+/// a filter cannot see, and fall back to clone where it is missing.
+bool refusePrograms(const Filter& filter) {
+    constexpr std::array calls{SCMP_SYS(execve), SCMP_SYS(execveat), SCMP_SYS(fork), SCMP_SYS(vfork)};
+    const scmp_arg_cmp noThread{0, SCMP_CMP_MASKED_EQ, CLONE_THREAD, 0};
+    return std::ranges::all_of(calls, [&](int call) { return refuse(filter, call, EPERM); }) &&
+           refuse(filter, SCMP_SYS(clone), EPERM, {noThread}) && refuse(filter, SCMP_SYS(clone3), ENOSYS);
+}
+
+bool addRules(const Filter& filter, const SandboxPolicy& policy) {
     const auto own = static_cast<scmp_datum_t>(::getpid());
     const scmp_arg_cmp notOwn{0, SCMP_CMP_NE, own, 0};
-    const scmp_arg_cmp noThread{0, SCMP_CMP_MASKED_EQ, CLONE_THREAD, 0};
     const scmp_arg_cmp notSelf{0, SCMP_CMP_NE, 0, 0};
     return std::ranges::all_of(refused(), [&](int call) { return refuse(filter, call, EPERM); }) &&
-           // Threads stay possible. Newer C libraries make them with clone3, whose flags a filter cannot see,
-           // and fall back to clone where it is missing.
-           refuse(filter, SCMP_SYS(clone), EPERM, {noThread}) && refuse(filter, SCMP_SYS(clone3), ENOSYS) &&
+           (policy.mayStartPrograms || refusePrograms(filter)) &&
            // abort() signals its own process.
            refuse(filter, SCMP_SYS(kill), EPERM, {notOwn}) &&
            refuse(filter, SCMP_SYS(tgkill), EPERM, {notOwn}) &&
@@ -72,9 +77,9 @@ bool addRules(const Filter& filter) {
 
 }  // namespace
 
-bool confineCalls() {
+bool confineCalls(const SandboxPolicy& policy) {
     const Filter filter(seccomp_init(SCMP_ACT_ALLOW), &seccomp_release);
-    return filter != nullptr && addRules(filter) && seccomp_load(filter.get()) == 0;
+    return filter != nullptr && addRules(filter, policy) && seccomp_load(filter.get()) == 0;
 }
 
 }  // namespace tamble::sandbox

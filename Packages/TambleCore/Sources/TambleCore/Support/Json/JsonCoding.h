@@ -1,5 +1,6 @@
 #pragma once
 
+#include <TambleCore/Support/Base64.h>
 #include <TambleCore/Support/FilePath.h>
 #include <TambleCore/Support/FileURL.h>
 #include <TambleCore/Support/Json/Described.h>
@@ -14,7 +15,7 @@
 
 /// JSON for every described record: keys are the field names, optional fields are left out when absent,
 /// enumerations are their case names, enumerations with a payload are objects with one key, paths are file
-/// URLs.
+/// URLs, bytes are Base64.
 namespace tamble {
 
 template <typename T>
@@ -149,6 +150,8 @@ Json encodeJson(const T& value) {
                 return object;
             },
             value);
+    } else if constexpr (std::same_as<T, std::vector<std::byte>>) {
+        return Json(base64(value));
     } else if constexpr (detail::IsVector<T>::value) {
         Json array = Json::array();
         for (const auto& element : value) array.push_back(encodeJson(element));
@@ -195,6 +198,11 @@ T decodeJson(const Json& document) {
         return document.is_null() ? T{} : T(decodeJson<typename T::value_type>(document));
     } else if constexpr (CaseVariant<T>) {
         return detail::decodeCase<T>(document, static_cast<const T*>(nullptr));
+    } else if constexpr (std::same_as<T, std::vector<std::byte>>) {
+        auto bytes =
+            document.is_string() ? bytesFromBase64(document.get_ref<const std::string&>()) : std::nullopt;
+        if (!bytes) throw DecodeError("A text in Base64 was expected.");
+        return std::move(*bytes);
     } else if constexpr (detail::IsVector<T>::value) {
         if (!document.is_array()) throw DecodeError("A list was expected.");
         T result;

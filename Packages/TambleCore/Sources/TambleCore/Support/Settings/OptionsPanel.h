@@ -11,6 +11,9 @@
 /// changes. The window draws it, the command line prints it; neither knows the tools.
 namespace tamble {
 
+/// Stands for what is typed into a text field.
+inline constexpr const char* panelText = "TEXT";
+
 /// One thing that can be picked.
 struct PanelChoice {
     std::string label;
@@ -24,6 +27,8 @@ enum class PanelControl {
     segments,  ///< one of a few short words; the description of the chosen one below
     toggle,    ///< on or off: the first choice's changes when on, the second's when off
     number,    ///< a number field for `setting`, with `range`
+    text,      ///< a text field, with `placeholder`; the first choice's changes hold panelText where it goes
+    password,  ///< a field for the password of the job's Secrets, with `placeholder`
     note,      ///< no control, only its heading and text
 };
 
@@ -37,6 +42,8 @@ struct PanelSection {
     /// The one setting of a number field, and its inclusive bounds.
     std::string setting = {};
     std::pair<std::int64_t, std::int64_t> range = {};
+    /// Stands in an empty text field.
+    std::string placeholder = {};
     std::string note = {};
     /// When not empty, the section is shown only if these members stand so in the settings, and only if some
     /// input is of this content type.

@@ -50,6 +50,11 @@ std::string settingSyntax(const SettingType& type);
 std::vector<std::string> settingWords(const SettingType& type);
 
 template <typename T>
+struct IsList : std::false_type {};
+template <typename T>
+struct IsList<std::vector<T>> : std::true_type {};
+
+template <typename T>
 SettingType settingType() {
     if constexpr (Optional<T>) {
         SettingType type = settingType<typename T::value_type>();
@@ -87,7 +92,7 @@ SettingType settingType() {
         });
         return type;
     } else {
-        static_assert(DescribedRecord<T>);
+        static_assert(DescribedRecord<T> || IsList<T>::value);
         return {.kind = SettingKind::record};
     }
 }

@@ -6,7 +6,7 @@
 namespace tamble {
 
 std::string SettingField::flag() const {
-    return kebabCase(name);
+    return hint.flag.empty() ? kebabCase(name) : std::string(hint.flag);
 }
 
 const SettingField* SettingsSchema::fieldNamed(std::string_view name) const {

@@ -15,6 +15,15 @@ struct SettingHint {
     /// The short flag people expect, as "to" for "output", and the case its value is a payload of, if any.
     std::string_view shortFlag = {};
     std::string_view shortCase = {};
+    /// The option's spelling, when it is not the field's name.
+    std::string_view flag = {};
+    /// A field without an option of its own can still be given as JSON.
+    bool isOffered = true;
+    /// For values with a notation of their own: the new value, made of what was typed and the present value
+    /// (null when it is absent). Throws SettingError.
+    Json (*parse)(std::string_view text, const Json& present) = nullptr;
+    /// How that notation is written, for help.
+    std::string_view syntax = {};
 };
 
 /// One field of a settings record: everything that flags, help, completion and validation need to know of it.

@@ -1,0 +1,34 @@
+#include <TambleCore/Jobs/SkipReason.h>
+#include <TambleCore/PDF/Operations/Operations.h>
+#include <TambleCore/PDF/PDFError.h>
+#include <TambleCore/PDF/Structure/Document.h>
+#include <TambleCore/Support/Text.h>
+
+namespace tamble::pdf {
+
+void addPassword(const SingleWork& work) {
+    const std::string& password = work.settings.password;
+    if (characterCount(password) < shortestPassword) throw PDFError(PDFError::Case::passwordMissing);
+    const Document document = Document::open(work.file.url, password);
+    if (isSealed(document)) work.context.leave(ItemNote::sealBroken);
+    save(document, work.destination, work.context, 0, [&](QPDFWriter& writer) {
+        // The strongest there is: AES-256 (ISO 32000-2, revision 6). Whoever opens it may do everything.
+        writer.setR6EncryptionParameters(password.c_str(), password.c_str(), true, true, true, true, true,
+                                         true, qpdf_r3p_full, true);
+    });
+}
+
+void removePassword(const SingleWork& work) {
+    const std::string& password = work.settings.password;
+    const Document document = Document::open(work.file.url, password);
+    if (!document.qpdf().isEncrypted()) throw ProcessorSkip(skip::NoPassword{});
+    if (!document.isLocked() && !document.isOwnedBy(password)) {
+        // Anybody may open it, but its owner reserved what may be done with it.
+        throw PDFError(password.empty() ? PDFError::Case::locked : PDFError::Case::couldNotRemovePassword);
+    }
+    if (isSealed(document)) work.context.leave(ItemNote::sealBroken);
+    save(document, work.destination, work.context, 0,
+         [](QPDFWriter& writer) { writer.setPreserveEncryption(false); });
+}
+
+}  // namespace tamble::pdf
