@@ -4,26 +4,22 @@
 
 namespace tamble::pdf {
 
-void split(const SingleWork&) {
-    throw std::logic_error("pending");
-}
-void editPages(PDFTool, const SingleWork&) {
-    throw std::logic_error("pending");
-}
 void compress(const SingleWork&) {
-    throw std::logic_error("pending");
-}
-void sign(const SingleWork&) {
     throw std::logic_error("pending");
 }
 void toImages(const SingleWork&) {
     throw std::logic_error("pending");
 }
-void merge(const CombinedWork&) {
-    throw std::logic_error("pending");
-}
 void fromImages(const CombinedWork&) {
     throw std::logic_error("pending");
 }
+void sign(const SingleWork&) {
+    throw std::logic_error("pending");
+}
 
+}  // namespace tamble::pdf
+namespace tamble::pdf {
+void merge(const CombinedWork&) {
+    throw std::logic_error("pending");
+}
 }  // namespace tamble::pdf
