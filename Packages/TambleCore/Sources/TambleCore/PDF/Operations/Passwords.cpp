@@ -2,6 +2,7 @@
 #include <TambleCore/PDF/Operations/Operations.h>
 #include <TambleCore/PDF/PDFError.h>
 #include <TambleCore/PDF/Structure/Document.h>
+#include <TambleCore/PDF/Structure/Encryption.h>
 #include <TambleCore/Support/Text.h>
 
 namespace tamble::pdf {
@@ -11,11 +12,7 @@ void addPassword(const SingleWork& work) {
     if (characterCount(password) < shortestPassword) throw PDFError(PDFError::Case::passwordMissing);
     const Document document = Document::open(work.file.url, password);
     if (isSealed(document)) work.context.leave(ItemNote::sealBroken);
-    save(document, work.destination, work.context, 0, [&](QPDFWriter& writer) {
-        // The strongest there is: AES-256 (ISO 32000-2, revision 6). Whoever opens it may do everything.
-        writer.setR6EncryptionParameters(password.c_str(), password.c_str(), true, true, true, true, true,
-                                         true, qpdf_r3p_full, true);
-    });
+    save(document, work.destination, work.context, 0, [&](QPDFWriter& writer) { encrypt(writer, password); });
 }
 
 void removePassword(const SingleWork& work) {

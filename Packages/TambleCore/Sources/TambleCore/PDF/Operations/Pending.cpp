@@ -18,8 +18,3 @@ void sign(const SingleWork&) {
 }
 
 }  // namespace tamble::pdf
-namespace tamble::pdf {
-void merge(const CombinedWork&) {
-    throw std::logic_error("pending");
-}
-}  // namespace tamble::pdf

@@ -1,6 +1,5 @@
 #include <TambleCore/PDF/Structure/Bookmarks.h>
-
-#include <unordered_set>
+#include <TambleCore/PDF/Structure/ObjectSet.h>
 
 namespace tamble::pdf {
 namespace {
@@ -21,7 +20,7 @@ class BookmarkReader {
 
   private:
     bool isNew(QPDFObjectHandle item) {
-        return item.isDictionary() && item.isIndirect() && seen_.insert(item.getObjectID()).second;
+        return item.isDictionary() && item.isIndirect() && seen_.insert(item);
     }
 
     Bookmark bookmark(QPDFObjectHandle item, int depth) {
@@ -41,7 +40,7 @@ class BookmarkReader {
     }
 
     const Destinations& destinations_;
-    std::unordered_set<int> seen_;
+    ObjectSet seen_;
 };
 
 class BookmarkWriter {
@@ -91,6 +90,19 @@ std::vector<Bookmark> bookmarks(const Document& document, const Destinations& de
     auto outlines = document.root().getKey("/Outlines");
     if (!outlines.isDictionary()) return {};
     return BookmarkReader(destinations).below(outlines, 1);
+}
+
+void forEachBookmark(const Document& document, const std::function<void(QPDFObjectHandle)>& visit) {
+    ObjectSet seen;
+    std::vector<QPDFObjectHandle> waiting{document.root().getKey("/Outlines")};
+    while (!waiting.empty()) {
+        auto item = waiting.back();
+        waiting.pop_back();
+        if (!item.isDictionary() || !seen.insert(item)) continue;
+        visit(item);
+        waiting.push_back(item.getKey("/Next"));
+        waiting.push_back(item.getKey("/First"));
+    }
 }
 
 void setBookmarks(const Document& document, const std::vector<Bookmark>& bookmarks) {

@@ -22,6 +22,9 @@ struct Bookmark {
 /// The document's bookmarks; those in loops or nested deeper than any reader shows are left out.
 std::vector<Bookmark> bookmarks(const Document& document, const Destinations& destinations);
 
+/// Calls for the object of each bookmark.
+void forEachBookmark(const Document& document, const std::function<void(QPDFObjectHandle)>& visit);
+
 /// Replaces the document's bookmarks; all objects must be its own.
 void setBookmarks(const Document& document, const std::vector<Bookmark>& bookmarks);
 

@@ -69,17 +69,22 @@ void forEachLink(QPDFObjectHandle page, const std::function<void(QPDFObjectHandl
     }
 }
 
-void setNamedDestinations(const Document& document, const std::map<std::string, QPDFObjectHandle>& named) {
+void setNames(const Document& document, const std::string& table,
+              const std::map<std::string, QPDFObjectHandle>& named) {
     auto root = document.root();
-    root.removeKey("/Dests");
     if (named.empty()) {
-        if (root.getKey("/Names").isDictionary()) root.getKey("/Names").removeKey("/Dests");
+        if (root.getKey("/Names").isDictionary()) root.getKey("/Names").removeKey(table);
         return;
     }
     if (!root.getKey("/Names").isDictionary()) root.replaceKey("/Names", QPDFObjectHandle::newDictionary());
     auto tree = QPDFNameTreeObjectHelper::newEmpty(document.qpdf());
-    for (const auto& [name, place] : named) tree.insert(name, place);
-    root.getKey("/Names").replaceKey("/Dests", tree.getObjectHandle());
+    for (const auto& [name, object] : named) tree.insert(name, object);
+    root.getKey("/Names").replaceKey(table, tree.getObjectHandle());
+}
+
+void setNamedDestinations(const Document& document, const std::map<std::string, QPDFObjectHandle>& named) {
+    document.root().removeKey("/Dests");
+    setNames(document, "/Dests", named);
 }
 
 }  // namespace tamble::pdf

@@ -36,6 +36,11 @@ void setPlace(QPDFObjectHandle link, const std::optional<QPDFObjectHandle>& plac
 /// Calls for each link annotation of the page.
 void forEachLink(QPDFObjectHandle page, const std::function<void(QPDFObjectHandle)>& visit);
 
+/// Replaces a table of the document in which objects are found by names in UTF-8, as "/Dests" or
+/// "/EmbeddedFiles".
+void setNames(const Document& document, const std::string& table,
+              const std::map<std::string, QPDFObjectHandle>& named);
+
 /// Replaces all named destinations of the document.
 void setNamedDestinations(const Document& document, const std::map<std::string, QPDFObjectHandle>& named);
 

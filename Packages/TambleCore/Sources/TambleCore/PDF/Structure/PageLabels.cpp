@@ -8,14 +8,27 @@ bool hasLabels(const Document& document) {
     return QPDFPageLabelDocumentHelper(document.qpdf()).hasPageLabels();
 }
 
+QPDFObjectHandle numberLabel(int number) {
+    auto label = QPDFObjectHandle::newDictionary();
+    label.replaceKey("/S", QPDFObjectHandle::newName("/D"));
+    label.replaceKey("/St", QPDFObjectHandle::newInteger(number));
+    return label;
+}
+
 void appendLabels(const Document& document, std::span<const int> pages, int newStart, PageLabels& labels) {
     QPDFPageLabelDocumentHelper helper(document.qpdf());
-    // Run by run: the library continues a run by itself.
+    const bool areNamed = helper.hasPageLabels();
+    // Run by run: within one, a label goes on counting by itself.
     for (std::size_t first = 0; first < pages.size();) {
         std::size_t end = first + 1;
         while (end < pages.size() && pages[end] == pages[end - 1] + 1) ++end;
-        helper.getLabelsForPageRange(pages[first], pages[end - 1], newStart + static_cast<int>(first),
-                                     labels);
+        const int start = newStart + static_cast<int>(first);
+        if (areNamed) {
+            helper.getLabelsForPageRange(pages[first], pages[end - 1], start, labels);
+        } else {
+            labels.push_back(QPDFObjectHandle::newInteger(start));
+            labels.push_back(numberLabel(pages[first] + 1));
+        }
         first = end;
     }
 }

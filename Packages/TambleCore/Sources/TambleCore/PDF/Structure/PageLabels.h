@@ -13,6 +13,9 @@ using PageLabels = std::vector<QPDFObjectHandle>;
 /// Whether the document names its pages other than by their number.
 bool hasLabels(const Document& document);
 
+/// A label that counts on from this number.
+QPDFObjectHandle numberLabel(int number);
+
 /// Appends the labels of these pages of the document for a table in which they begin at `newStart`; direct
 /// objects.
 void appendLabels(const Document& document, std::span<const int> pages, int newStart, PageLabels& labels);

@@ -1,0 +1,86 @@
+#include <TambleCore/Intake/FileTypes.h>
+#include <TambleCore/PDF/Operations/Operations.h>
+#include <TambleCore/PDF/PDFError.h>
+#include <TambleCore/PDF/Structure/Assembly/Assembly.h>
+#include <TambleCore/PDF/Structure/Encryption.h>
+#include <TambleCore/Support/Text.h>
+
+#include <atomic>
+#include <exception>
+#include <mutex>
+#include <thread>
+
+namespace tamble::pdf {
+namespace {
+
+/// Opening takes so much of the work.
+constexpr double opening = 0.3;
+
+/// Opens all inputs, several at once.
+class Opening {
+  public:
+    explicit Opening(const CombinedWork& work) : work_(work), parts_(work.files.size()) {}
+
+    std::vector<std::unique_ptr<AssemblyPart>> run() {
+        {
+            const auto open = [this] { openAll(); };
+            std::vector<std::jthread> helpers;
+            for (unsigned i = 1; i < std::thread::hardware_concurrency() && i < parts_.size(); ++i)
+                helpers.emplace_back(open);
+            open();
+        }
+        if (failure_) std::rethrow_exception(failure_);
+        return std::move(parts_);
+    }
+
+    /// Whether any input takes a password.
+    bool isAnyLocked() const { return isAnyLocked_; }
+
+  private:
+    void openAll() {
+        try {
+            for (std::size_t i = next_++; i < parts_.size(); i = next_++) {
+                work_.context.throwIfStopped();
+                parts_[i] = opened(work_.files[i]);
+                work_.context.report(opening * static_cast<double>(++opened_) /
+                                     static_cast<double>(parts_.size()));
+            }
+        } catch (...) {
+            const std::scoped_lock lock(mutex_);
+            if (!failure_) failure_ = std::current_exception();
+            next_ = parts_.size();
+        }
+    }
+
+    std::unique_ptr<AssemblyPart> opened(const InputFile& file) {
+        Document document = Document::open(file.url, work_.settings.password);
+        if (document.isLocked()) isAnyLocked_ = true;
+        if (isSealed(document)) work_.context.leave(ItemNote::sealBroken);
+        return std::make_unique<AssemblyPart>(std::move(document), printable(file.url.stem().native()));
+    }
+
+    const CombinedWork& work_;
+    std::vector<std::unique_ptr<AssemblyPart>> parts_;
+    std::atomic<std::size_t> next_ = 0;
+    std::atomic<std::size_t> opened_ = 0;
+    std::atomic<bool> isAnyLocked_ = false;
+    std::mutex mutex_;
+    std::exception_ptr failure_;
+};
+
+}  // namespace
+
+void merge(const CombinedWork& work) {
+    Opening inputs(work);
+    Assembly assembly(inputs.run());
+    if (!inputs.isAnyLocked()) return assembly.writeTo(work.destination, work.context, opening);
+    // What was locked stays so: nothing is written unlocked but for this moment, in the job's private folder.
+    std::filesystem::path open = work.destination;
+    open += ".open";
+    assembly.writeTo(open, {.stop = work.context.stop}, opening);
+    save(Document::open(open, {}), work.destination, work.context, opening,
+         [&](QPDFWriter& writer) { encrypt(writer, work.settings.password); });
+    std::filesystem::remove(open);
+}
+
+}  // namespace tamble::pdf

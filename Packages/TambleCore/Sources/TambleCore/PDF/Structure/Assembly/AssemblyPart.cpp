@@ -1,0 +1,88 @@
+#include <TambleCore/PDF/Structure/Assembly/AssemblyPart.h>
+
+#include <utility>
+
+namespace tamble::pdf {
+namespace {
+
+/// For the parents of the pages, the bookmarks and the tags, two neighbours, and a table of tags.
+constexpr int standInCount = 6;
+
+QPDFObjectHandle indirect(QPDF& qpdf, QPDFObjectHandle parent, const std::string& key) {
+    auto object = parent.getKey(key);
+    if (object.isIndirect()) return object;
+    auto made = qpdf.makeIndirectObject(object);
+    parent.replaceKey(key, made);
+    return made;
+}
+
+QPDFObjectHandle rootOfBookmarks(QPDF& qpdf, QPDFObjectHandle root) {
+    if (!root.getKey("/Outlines").isDictionary())
+        root.replaceKey("/Outlines", QPDFObjectHandle::newDictionary());
+    return indirect(qpdf, root, "/Outlines");
+}
+
+}  // namespace
+
+AssemblyPart::AssemblyPart(Document document, std::string title)
+    : document_(std::move(document)),
+      title_(std::move(title)),
+      destinations_(document_),
+      pages_(indirect(document_.qpdf(), document_.root(), "/Pages")),
+      bookmark_(rootOfBookmarks(document_.qpdf(), document_.root())) {
+    pages_.replaceKey("/Count", QPDFObjectHandle::newInteger(document_.pageCount()));
+    for (int i = 0; i < standInCount; ++i)
+        // Not null: a key with nothing is no key.
+        standIns_.push_back(document_.qpdf().makeIndirectObject(QPDFObjectHandle::newDictionary()));
+}
+
+QPDFObjectHandle AssemblyPart::reference(int number) {
+    auto standIn = standIns_.back();
+    standIns_.pop_back();
+    numbers_.standIns.emplace(standIn.getObjectID(), number);
+    return standIn;
+}
+
+QPDFObjectHandle AssemblyPart::keep(QPDFObjectHandle object) {
+    auto kept = standIns_.back();
+    standIns_.pop_back();
+    document_.qpdf().replaceObject(kept.getObjGen(), object);
+    return document_.qpdf().getObject(kept.getObjGen());
+}
+
+void AssemblyPart::hangInto(int pagesNumber, int bookmarksNumber) {
+    pages_.replaceKey("/Parent", reference(pagesNumber));
+    bookmark_.removeKey("/Type");
+    bookmark_.replaceKey("/Title", QPDFObjectHandle::newUnicodeString(title_));
+    bookmark_.replaceKey("/Parent", reference(bookmarksNumber));
+    auto place = QPDFObjectHandle::newArray();
+    place.appendItem(document_.pages().front());
+    place.appendItem(QPDFObjectHandle::newName("/Fit"));
+    bookmark_.replaceKey("/Dest", place);
+    // Closed: the number of those that it would show, negative.
+    auto count = bookmark_.getKey("/Count");
+    const long long shown = count.isInteger() ? std::abs(count.getIntValue()) : 1;
+    if (bookmark_.hasKey("/First"))
+        bookmark_.replaceKey("/Count", QPDFObjectHandle::newInteger(-std::max(shown, 1LL)));
+}
+
+void AssemblyPart::setNeighbours(std::optional<int> previous, std::optional<int> next) {
+    if (previous) bookmark_.replaceKey("/Prev", reference(*previous));
+    if (next) bookmark_.replaceKey("/Next", reference(*next));
+}
+
+void AssemblyPart::resolveNames() {
+    const auto resolve = [this](QPDFObjectHandle link) {
+        if (leadsInside(link)) setPlace(link, destinations_.placeOf(link));
+    };
+    for (const auto& page : document_.pages()) forEachLink(page, resolve);
+    forEachBookmark(document_, resolve);
+}
+
+CarriedObjects AssemblyPart::objects(const std::stop_token& stop) const {
+    std::vector<QPDFObjectHandle> from{pages_, bookmark_};
+    from.insert(from.end(), included_.begin(), included_.end());
+    return CarriedObjects::reachable(document_, from, numbers_, stop);
+}
+
+}  // namespace tamble::pdf

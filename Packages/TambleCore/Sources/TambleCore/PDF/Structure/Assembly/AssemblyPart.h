@@ -1,0 +1,57 @@
+#pragma once
+
+#include <TambleCore/PDF/Structure/Bookmarks.h>
+#include <TambleCore/PDF/Structure/Carrying/CarriedObjects.h>
+
+namespace tamble::pdf {
+
+/// One of the documents that become one. Its objects keep standing in it, changed where they will belong to
+/// the whole, until they are written into the new file under numbers of their own.
+class AssemblyPart {
+  public:
+    AssemblyPart(Document document, std::string title);
+
+    const Document& document() const noexcept { return document_; }
+    const std::string& title() const noexcept { return title_; }
+    const Destinations& destinations() const noexcept { return destinations_; }
+
+    /// The root of its page tree, and the bookmark of the whole part, with the document's own below it.
+    QPDFObjectHandle pages() const { return pages_; }
+    QPDFObjectHandle bookmark() const { return bookmark_; }
+
+    /// How many numbers its objects take. The functions below may be called once they are given.
+    int numberCount() const { return static_cast<int>(document_.qpdf().getObjectCount()) + 1; }
+    void setFirstNumber(int first) { numbers_.base = first; }
+    void setTagOffset(std::int64_t offset) { numbers_.tagOffset = offset; }
+    int numberOf(QPDFObjectHandle object) const { return numbers_.numberOf(object.getObjectID()); }
+
+    /// Makes the keys of these objects refer to objects of the new file, by their numbers.
+    void hangInto(int pagesNumber, int bookmarksNumber);
+    void setNeighbours(std::optional<int> previous, std::optional<int> next);
+    /// An object that refers to one of the new file: a stand-in, of which there are as many as were asked for
+    /// before numberCount().
+    QPDFObjectHandle reference(int number);
+
+    /// The object as an indirect one of the document: takes one of the stand-ins.
+    QPDFObjectHandle keep(QPDFObjectHandle object);
+
+    /// Links and bookmarks lead to their places outright, not by names that another part has, too.
+    void resolveNames();
+
+    /// Takes along an object that is not reached from its pages.
+    void include(QPDFObjectHandle object) { included_.push_back(object); }
+
+    CarriedObjects objects(const std::stop_token& stop) const;
+
+  private:
+    Document document_;
+    std::string title_;
+    Destinations destinations_;
+    QPDFObjectHandle pages_;
+    QPDFObjectHandle bookmark_;
+    std::vector<QPDFObjectHandle> standIns_;
+    Renumbering numbers_;
+    std::vector<QPDFObjectHandle> included_;
+};
+
+}  // namespace tamble::pdf
