@@ -1,6 +1,6 @@
 #include <TambleCore/Intake/FileTypes.h>
 #include <TambleCore/PDF/Operations/Operations.h>
-#include <TambleCore/PDF/PDFError.h>
+#include <TambleCore/PDF/Photos/PhotoDocument.h>
 #include <TambleCore/PDF/Structure/Assembly/Assembly.h>
 #include <TambleCore/PDF/Structure/Encryption.h>
 #include <TambleCore/Support/Text.h>
@@ -41,7 +41,7 @@ class Opening {
         try {
             for (std::size_t i = next_++; i < parts_.size(); i = next_++) {
                 work_.context.throwIfStopped();
-                parts_[i] = opened(work_.files[i]);
+                parts_[i] = opened(i);
                 work_.context.report(opening * static_cast<double>(++opened_) /
                                      static_cast<double>(parts_.size()));
             }
@@ -52,11 +52,24 @@ class Opening {
         }
     }
 
-    std::unique_ptr<AssemblyPart> opened(const InputFile& file) {
-        Document document = Document::open(file.url, work_.settings.password);
+    std::unique_ptr<AssemblyPart> opened(std::size_t index) {
+        const InputFile& file = work_.files[index];
+        Document document = FileTypes::isPDF(file.contentType)
+                                ? Document::open(file.url, work_.settings.password)
+                                : photoPage(file, index);
         if (document.isLocked()) isAnyLocked_ = true;
         if (isSealed(document)) work_.context.leave(ItemNote::sealBroken);
         return std::make_unique<AssemblyPart>(std::move(document), printable(file.url.stem().native()));
+    }
+
+    /// A document of its own, which is gone from its folder as soon as it is open.
+    Document photoPage(const InputFile& file, std::size_t index) const {
+        std::filesystem::path place = work_.destination;
+        place += fmt::format(".{}", index);
+        writePhotos({&file, 1}, place, work_.settings, {.stop = work_.context.stop});
+        Document document = Document::open(place, {});
+        std::filesystem::remove(place);
+        return document;
     }
 
     const CombinedWork& work_;

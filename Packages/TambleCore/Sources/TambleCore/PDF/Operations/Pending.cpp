@@ -10,9 +10,6 @@ void compress(const SingleWork&) {
 void toImages(const SingleWork&) {
     throw std::logic_error("pending");
 }
-void fromImages(const CombinedWork&) {
-    throw std::logic_error("pending");
-}
 void sign(const SingleWork&) {
     throw std::logic_error("pending");
 }
