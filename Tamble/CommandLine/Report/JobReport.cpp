@@ -67,6 +67,16 @@ std::string_view noteSentence(ItemNote note) {
     return "This PDF is digitally signed. The new file is a changed one, so the seal no longer holds for it.";
 }
 
+/// The one failure of all of several items.
+std::optional<ItemFailure> commonFailure(const JobResult& result) {
+    if (result.items.size() < 2) return std::nullopt;
+    const auto* first = std::get_if<outcome::Failed>(&result.items.front().outcome);
+    const bool isCommon = first != nullptr && std::ranges::all_of(result.items, [&](const ItemResult& item) {
+                              return item.outcome == result.items.front().outcome;
+                          });
+    return isCommon ? std::optional(first->value) : std::nullopt;
+}
+
 std::string joined(const std::vector<std::string>& parts) {
     std::string text;
     for (const auto& part : parts) text += (text.empty() ? "" : " ") + part;
@@ -142,6 +152,8 @@ std::string closingLine(const JobResult& result, const std::string& undoCommand)
 }
 
 std::vector<std::string> problemLines(const JobResult& result) {
+    // What several files were to become together failed once.
+    if (const auto common = commonFailure(result)) return {failureSentence(*common)};
     std::vector<std::string> lines;
     for (const auto& item : result.items) {
         if (const auto* failed = std::get_if<outcome::Failed>(&item.outcome)) {

@@ -7,7 +7,7 @@ namespace tamble {
 namespace {
 
 /// In the order of the cases.
-constexpr std::array<std::string_view, 12> sentences{
+constexpr std::array<std::string_view, 14> sentences{
     "Couldn't open this file. It may be damaged, or not the kind of file this tool works with.",
     "This PDF has a password. Type it in and try again.",
     "That password didn't open this PDF.",
@@ -20,6 +20,8 @@ constexpr std::array<std::string_view, 12> sentences{
     "Couldn't draw one of the pages.",
     "A page would be too large for this format. Choose a smaller resolution.",
     "Couldn't read the signature picture.",
+    "Draw or choose a signature first.",
+    "The signature doesn't fit on its page.",
 };
 
 }  // namespace

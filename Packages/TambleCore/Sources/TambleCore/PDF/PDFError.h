@@ -22,10 +22,12 @@ class PDFError : public Failure {
         pageFailed,
         pageTooLarge,
         signatureUnreadable,
+        signatureMissing,
+        signatureOffPage,
     };
     BOOST_DESCRIBE_NESTED_ENUM(Case, unreadable, locked, wrongPassword, passwordMissing, invalidPageRange,
                                noPages, writeFailed, couldNotRemovePassword, imageUnreadable, pageFailed,
-                               pageTooLarge, signatureUnreadable)
+                               pageTooLarge, signatureUnreadable, signatureMissing, signatureOffPage)
 
     /// `detail` is what the library said, for the log.
     explicit PDFError(Case which, std::string detail = {});

@@ -1,5 +1,6 @@
 #include <TambleCore/Intake/FileTypes.h>
 #include <TambleCore/PDF/Operations/Operations.h>
+#include <TambleCore/PDF/PDFError.h>
 #include <TambleCore/PDF/Photos/PhotoDocument.h>
 #include <TambleCore/PDF/Structure/Assembly/Assembly.h>
 #include <TambleCore/PDF/Structure/Encryption.h>
@@ -41,7 +42,7 @@ class Opening {
         try {
             for (std::size_t i = next_++; i < parts_.size(); i = next_++) {
                 work_.context.throwIfStopped();
-                parts_[i] = opened(i);
+                parts_[i] = openedByName(i);
                 work_.context.report(opening * static_cast<double>(++opened_) /
                                      static_cast<double>(parts_.size()));
             }
@@ -49,6 +50,16 @@ class Opening {
             const std::scoped_lock lock(mutex_);
             if (!failure_) failure_ = std::current_exception();
             next_ = parts_.size();
+        }
+    }
+
+    /// Of several files people must know which one.
+    std::unique_ptr<AssemblyPart> openedByName(std::size_t index) {
+        try {
+            return opened(index);
+        } catch (const PDFError& error) {
+            const std::string name = printable(work_.files[index].url.filename().native());
+            throw Failure(error.code(), fmt::format("“{}”: {}", name, error.sentence()), error.detail());
         }
     }
 

@@ -10,8 +10,5 @@ void compress(const SingleWork&) {
 void toImages(const SingleWork&) {
     throw std::logic_error("pending");
 }
-void sign(const SingleWork&) {
-    throw std::logic_error("pending");
-}
 
 }  // namespace tamble::pdf

@@ -1,21 +1,13 @@
 #include <TambleCore/PDF/PDFError.h>
 #include <TambleCore/PDF/Photos/PhotoDocument.h>
 #include <TambleCore/PDF/Photos/PhotoLayout.h>
-#include <TambleCore/PDF/Structure/Deflate.h>
+#include <TambleCore/PDF/Photos/PhotoWriting.h>
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
 namespace tamble::pdf {
 namespace {
-
-/// Numbers as PDFs write them: plain, and no longer than they need to be.
-std::string number(double value) {
-    std::string text = fmt::format("{:.4f}", value);
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.ends_with('.')) text.pop_back();
-    return text;
-}
 
 class PhotoWriter {
   public:
@@ -24,17 +16,17 @@ class PhotoWriter {
 
     void add(const Photo& photo) {
         const PhotoLayout layout = layoutOf(photo, settings_.pageSize, settings_.pageMargin);
-        const int picture = addPicture(photo);
+        const int picture = writePicture(writer_, photo);
         const int content = writer_.reserve();
         const auto& m = layout.matrix;
         writer_.addStream(content, "<< ",
-                          fmt::format("q {} {} {} {} {} {} cm /Photo Do Q", number(m[0]), number(m[1]),
-                                      number(m[2]), number(m[3]), number(m[4]), number(m[5])));
+                          fmt::format("q {} {} {} {} {} {} cm /Photo Do Q", pdfNumber(m[0]), pdfNumber(m[1]),
+                                      pdfNumber(m[2]), pdfNumber(m[3]), pdfNumber(m[4]), pdfNumber(m[5])));
         const int page = writer_.reserve();
-        writer_.addObject(page,
-                          fmt::format("<< /Type /Page /Parent {} 0 R /MediaBox [0 0 {} {}] /Resources << "
-                                      "/XObject << /Photo {} 0 R >> >> /Contents {} 0 R >>",
-                                      pages_, number(layout.width), number(layout.height), picture, content));
+        writer_.addObject(
+            page, fmt::format("<< /Type /Page /Parent {} 0 R /MediaBox [0 0 {} {}] /Resources << "
+                              "/XObject << /Photo {} 0 R >> >> /Contents {} 0 R >>",
+                              pages_, pdfNumber(layout.width), pdfNumber(layout.height), picture, content));
         kids_.push_back(fmt::format("{} 0 R", page));
     }
 
@@ -46,29 +38,6 @@ class PhotoWriter {
     }
 
   private:
-    int addPicture(const Photo& photo) {
-        std::string colours = photo.colours;
-        if (photo.profile) {
-            const int profile = writer_.reserve();
-            writer_.addStream(profile,
-                              fmt::format("<< /N {} {}", photo.profile->components, photo.profile->filter),
-                              photo.profile->data);
-            colours = fmt::format("[/ICCBased {} 0 R]", profile);
-        }
-        const std::string size =
-            fmt::format("<< /Type /XObject /Subtype /Image /Width {} /Height {} ", photo.width, photo.height);
-        std::string mask;
-        if (!photo.alphaCoding.empty()) {
-            const int alpha = writer_.reserve();
-            writer_.addStream(alpha, size + "/ColorSpace /DeviceGray " + photo.alphaCoding, photo.alpha);
-            mask = fmt::format("/SMask {} 0 R ", alpha);
-        }
-        const int picture = writer_.reserve();
-        writer_.addStream(picture, size + fmt::format("/ColorSpace {} ", colours) + mask + photo.coding,
-                          photo.file ? photo.data : std::string_view(photo.bytes));
-        return picture;
-    }
-
     FileWriter& writer_;
     const PDFJobSettings& settings_;
     int catalog_;

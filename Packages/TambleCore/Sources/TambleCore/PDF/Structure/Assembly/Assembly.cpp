@@ -10,6 +10,7 @@ namespace tamble::pdf {
 Assembly::Assembly(std::vector<std::unique_ptr<AssemblyPart>> parts) : parts_(std::move(parts)) {
     bookmarks_ = frame_.qpdf().makeIndirectObject(QPDFObjectHandle::newDictionary());
     tags_ = frame_.qpdf().makeIndirectObject(QPDFObjectHandle::newDictionary());
+    taggedParts_ = frame_.qpdf().makeIndirectObject(QPDFObjectHandle::newDictionary());
     frame_.root().getKey("/Pages").replaceKey("/Kids", QPDFObjectHandle::newArray());
 }
 
@@ -93,7 +94,7 @@ std::string Assembly::version() const {
 void Assembly::writeTo(const std::filesystem::path& destination, const WorkContext& context, double from) {
     try {
         FileWriter writer(destination, version());
-        for (const auto& object : {frame_.root().getKey("/Pages"), bookmarks_, tags_})
+        for (const auto& object : {frame_.root().getKey("/Pages"), bookmarks_, taggedParts_})
             frameNumbers_.given.emplace(object.getObjectID(), writer.reserve());
         for (const auto& part : parts_) addPart(writer, *part);
         finishFrame();

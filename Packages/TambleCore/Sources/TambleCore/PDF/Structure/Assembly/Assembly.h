@@ -41,7 +41,9 @@ class Assembly {
     Renumbering frameNumbers_;
     std::map<int, QPDFObjectHandle> standIns_;
     QPDFObjectHandle bookmarks_;
+    /// The tree of tags and its one branch, which holds those of the parts.
     QPDFObjectHandle tags_;
+    QPDFObjectHandle taggedParts_;
     int pageCount_ = 0;
     int tagCount_ = 0;
     std::map<std::string, QPDFObjectHandle> namedPlaces_;

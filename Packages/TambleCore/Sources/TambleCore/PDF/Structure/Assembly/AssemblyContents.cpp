@@ -145,7 +145,11 @@ void Assembly::addTags(AssemblyPart& part) {
     if (!tree.isIndirect()) return;
     auto whole = tags_;
     whole.replaceKey("/Type", QPDFObjectHandle::newName("/StructTreeRoot"));
-    sublist(whole, "/K").appendItem(inFrame(part, tree));
+    whole.replaceKey("/K", taggedParts_);
+    taggedParts_.replaceKey("/Type", QPDFObjectHandle::newName("/StructElem"));
+    taggedParts_.replaceKey("/S", QPDFObjectHandle::newName("/Document"));
+    taggedParts_.replaceKey("/P", tags_);
+    sublist(taggedParts_, "/K").appendItem(inFrame(part, tree));
     auto places = tree.getKey("/ParentTree");
     if (places.isDictionary()) {
         auto numbers = QPDFObjectHandle::newArray();
@@ -177,7 +181,7 @@ void Assembly::addTags(AssemblyPart& part) {
         tree.removeKey(key);
     tree.replaceKey("/Type", QPDFObjectHandle::newName("/StructElem"));
     tree.replaceKey("/S", QPDFObjectHandle::newName("/Document"));
-    tree.replaceKey("/P", part.reference(frameNumbers_.numberOf(tags_.getObjectID())));
+    tree.replaceKey("/P", part.reference(frameNumbers_.numberOf(taggedParts_.getObjectID())));
     frame_.root().replaceKey("/StructTreeRoot", tags_);
     subdictionary(frame_.root(), "/MarkInfo").replaceKey("/Marked", QPDFObjectHandle::newBool(true));
 }
