@@ -1,9 +1,9 @@
 #include <TambleCore/Intake/FileTypes.h>
+#include <TambleCore/PDF/Operations/LockedOutput.h>
 #include <TambleCore/PDF/Operations/Operations.h>
 #include <TambleCore/PDF/PDFError.h>
 #include <TambleCore/PDF/Photos/PhotoDocument.h>
 #include <TambleCore/PDF/Structure/Assembly/Assembly.h>
-#include <TambleCore/PDF/Structure/Encryption.h>
 #include <TambleCore/Support/Text.h>
 
 #include <atomic>
@@ -97,14 +97,11 @@ class Opening {
 void merge(const CombinedWork& work) {
     Opening inputs(work);
     Assembly assembly(inputs.run());
-    if (!inputs.isAnyLocked()) return assembly.writeTo(work.destination, work.context, opening);
-    // What was locked stays so: nothing is written unlocked but for this moment, in the job's private folder.
-    std::filesystem::path open = work.destination;
-    open += ".open";
-    assembly.writeTo(open, {.stop = work.context.stop}, opening);
-    save(Document::open(open, {}), work.destination, work.context, opening,
-         [&](QPDFWriter& writer) { encrypt(writer, work.settings.password); });
-    std::filesystem::remove(open);
+    const auto write = [&](const std::filesystem::path& file) {
+        assembly.writeTo(file, work.context, opening);
+    };
+    if (!inputs.isAnyLocked()) return write(work.destination);
+    writeLocked(work.destination, work.settings.password, work.context, write);
 }
 
 }  // namespace tamble::pdf

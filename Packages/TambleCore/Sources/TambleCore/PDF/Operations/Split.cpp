@@ -1,8 +1,9 @@
+#include <TambleCore/PDF/Operations/LockedOutput.h>
 #include <TambleCore/PDF/Operations/Operations.h>
 #include <TambleCore/PDF/PDFError.h>
 #include <TambleCore/PDF/PDFNames.h>
 #include <TambleCore/PDF/PageList.h>
-#include <TambleCore/PDF/Structure/Pieces.h>
+#include <TambleCore/PDF/Structure/Pieces/PieceMaker.h>
 
 #include <atomic>
 #include <exception>
@@ -41,14 +42,15 @@ class Splitting {
         PieceMaker maker(document);
         for (std::size_t i = next_++; i < groups_.size(); i = next_++) {
             work_.context.throwIfStopped();
-            const Document piece = maker.piece(groups_[i]);
-            save(piece, work_.destination / pieceName(stem_, i, groups_.size(), groups_[i]),
-                 {.stop = work_.context.stop}, 0, [&](QPDFWriter& writer) {
-                     // Packing the few objects of a piece costs more time than it saves room.
-                     writer.setObjectStreamMode(qpdf_o_disable);
-                     // The pieces of a locked document are nobody else's either.
-                     if (document.isLocked()) writer.copyEncryptionParameters(document.qpdf());
-                 });
+            const auto file = work_.destination / pieceName(stem_, i, groups_.size(), groups_[i]);
+            const auto write = [&](const std::filesystem::path& place) {
+                maker.write(groups_[i], place, work_.context.stop);
+            };
+            if (document.isLocked()) {
+                writeLocked(file, work_.settings.password, work_.context, write);
+            } else {
+                write(file);
+            }
             work_.context.report(static_cast<double>(++written_) / static_cast<double>(groups_.size()));
         }
     }

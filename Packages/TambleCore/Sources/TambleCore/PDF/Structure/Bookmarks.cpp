@@ -28,6 +28,7 @@ class BookmarkReader {
         if (auto title = item.getKey("/Title"); title.isString()) found.title = title.getUTF8Value();
         if (leadsInside(item)) {
             found.place = destinations_.placeOf(item);
+            if (found.place) found.pageNumber = found.place->getArrayItem(0).getObjectID();
         } else if (auto action = item.getKey("/A"); action.isDictionary()) {
             found.action = action;
         }

@@ -10,6 +10,8 @@ struct Bookmark {
     std::string title;
     /// Where it leads inside the document: an array with the page first.
     std::optional<QPDFObjectHandle> place = {};
+    /// The number of the page's object; 0 without a place.
+    int pageNumber = 0;
     /// What else it does, as opening a web page.
     std::optional<QPDFObjectHandle> action = {};
     /// Its colour (/C) and style (/F), where it has them.

@@ -8,41 +8,22 @@
 namespace tamble::pdf {
 
 Assembly::Assembly(std::vector<std::unique_ptr<AssemblyPart>> parts) : parts_(std::move(parts)) {
-    bookmarks_ = frame_.qpdf().makeIndirectObject(QPDFObjectHandle::newDictionary());
-    tags_ = frame_.qpdf().makeIndirectObject(QPDFObjectHandle::newDictionary());
-    taggedParts_ = frame_.qpdf().makeIndirectObject(QPDFObjectHandle::newDictionary());
-    frame_.root().getKey("/Pages").replaceKey("/Kids", QPDFObjectHandle::newArray());
+    tags_ = frame_.document().qpdf().makeIndirectObject(QPDFObjectHandle::newDictionary());
 }
 
-QPDFObjectHandle Assembly::inFrame(AssemblyPart& part, QPDFObjectHandle object) {
-    if (object.isIndirect()) {
-        part.include(object);
-        const int number = part.numberOf(object);
-        const auto known = standIns_.find(number);
-        if (known != standIns_.end()) return known->second;
-        auto standIn = frame_.qpdf().makeIndirectObject(QPDFObjectHandle::newDictionary());
-        frameNumbers_.standIns.emplace(standIn.getObjectID(), number);
-        return standIns_.emplace(number, standIn).first->second;
-    }
-    if (object.isArray()) {
-        auto copy = QPDFObjectHandle::newArray();
-        for (const auto& item : object.getArrayAsVector()) copy.appendItem(inFrame(part, item));
-        return copy;
-    }
-    if (object.isDictionary()) {
-        auto copy = QPDFObjectHandle::newDictionary();
-        for (const auto& [key, value] : object.getDictAsMap()) copy.replaceKey(key, inFrame(part, value));
-        return copy;
-    }
-    return object.unsafeShallowCopy();
+QPDFObjectHandle Assembly::inFrame(AssemblyPart& part, QPDFObjectHandle value) {
+    return frame_.copied(value, [&part](QPDFObjectHandle object) { return part.include(object); });
+}
+
+QPDFObjectHandle Assembly::contentInFrame(AssemblyPart& part, QPDFObjectHandle object) {
+    return frame_.copiedContent(object, [&part](QPDFObjectHandle held) { return part.include(held); });
 }
 
 void Assembly::addPart(FileWriter& writer, AssemblyPart& part) {
     const bool isTagged = part.document().root().getKey("/StructTreeRoot").isDictionary();
     part.setFirstNumber(writer.reserve(part.numberCount()));
-    part.hangInto(frameNumbers_.numberOf(frame_.root().getKey("/Pages").getObjectID()),
-                  frameNumbers_.numberOf(bookmarks_.getObjectID()));
-    frame_.root().getKey("/Pages").getKey("/Kids").appendItem(inFrame(part, part.pages()));
+    part.hangInto(pagesNumber_, bookmarksNumber_);
+    frame_.pages().getKey("/Kids").appendItem(inFrame(part, part.pages()));
     addNamedPlaces(part);
     addFields(part);
     addLabels(part);
@@ -72,11 +53,11 @@ void Assembly::joinBookmarks() {
 }
 
 void Assembly::finishFrame() {
-    frame_.root().getKey("/Pages").replaceKey("/Count", QPDFObjectHandle::newInteger(pageCount_));
+    frame_.pages().replaceKey("/Count", QPDFObjectHandle::newInteger(pageCount_));
     joinBookmarks();
-    setNamedDestinations(frame_, namedPlaces_);
-    setNames(frame_, "/EmbeddedFiles", attachments_);
-    if (hasLabels_) setLabels(frame_, labels_);
+    setNamedDestinations(frame_.document(), namedPlaces_);
+    setNames(frame_.document(), "/EmbeddedFiles", attachments_);
+    if (hasLabels_) setLabels(frame_.document(), labels_);
     for (const auto& part : parts_) {
         auto language = part->document().root().getKey("/Lang");
         if (language.isString() && !frame_.root().hasKey("/Lang"))
@@ -94,11 +75,14 @@ std::string Assembly::version() const {
 void Assembly::writeTo(const std::filesystem::path& destination, const WorkContext& context, double from) {
     try {
         FileWriter writer(destination, version());
-        for (const auto& object : {frame_.root().getKey("/Pages"), bookmarks_, taggedParts_})
-            frameNumbers_.given.emplace(object.getObjectID(), writer.reserve());
+        pagesNumber_ = writer.reserve();
+        frame_.give(frame_.pages(), pagesNumber_);
+        bookmarksNumber_ = writer.reserve();
+        bookmarks_ = frame_.makeObject(QPDFObjectHandle::newDictionary(), bookmarksNumber_);
+        taggedPartsNumber_ = writer.reserve();
+        taggedParts_ = frame_.makeObject(QPDFObjectHandle::newDictionary(), taggedPartsNumber_);
         for (const auto& part : parts_) addPart(writer, *part);
         finishFrame();
-        frameNumbers_.base = writer.reserve(static_cast<int>(frame_.qpdf().getObjectCount()) + 1);
         PartQueue queue(parts_, context.stop);
         for (std::size_t i = 0; i < parts_.size(); ++i) {
             queue.next().writeTo(writer);
@@ -106,8 +90,7 @@ void Assembly::writeTo(const std::filesystem::path& destination, const WorkConte
             context.report(from +
                            (1 - from) * static_cast<double>(i + 1) / static_cast<double>(parts_.size()));
         }
-        CarriedObjects::reachable(frame_, {frame_.root()}, frameNumbers_, context.stop).writeTo(writer);
-        writer.finish(frameNumbers_.numberOf(frame_.root().getObjectID()));
+        frame_.finish(writer, context.stop);
     } catch (const std::filesystem::filesystem_error& error) {
         throw PDFError(PDFError::Case::writeFailed, error.what());
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <TambleCore/PDF/Structure/Assembly/AssemblyPart.h>
+#include <TambleCore/PDF/Structure/Carrying/Frame.h>
 #include <TambleCore/PDF/Structure/PageLabels.h>
 
 #include <map>
@@ -22,13 +23,14 @@ class Assembly {
     void writeTo(const std::filesystem::path& destination, const WorkContext& context, double from);
 
   private:
-    /// Stands in the frame for an object of a part, which is taken along.
-    QPDFObjectHandle inFrame(AssemblyPart& part, QPDFObjectHandle object);
+    /// In the frame: a copy of a value of a part, whose objects are taken along.
+    QPDFObjectHandle inFrame(AssemblyPart& part, QPDFObjectHandle value);
+    QPDFObjectHandle contentInFrame(AssemblyPart& part, QPDFObjectHandle object);
 
     void addPart(FileWriter& writer, AssemblyPart& part);
     void addNamedPlaces(AssemblyPart& part);
     void addFields(AssemblyPart& part);
-    void addLabels(const AssemblyPart& part);
+    void addLabels(AssemblyPart& part);
     void addAttachments(AssemblyPart& part);
     void addLayers(AssemblyPart& part);
     void addTags(AssemblyPart& part);
@@ -37,9 +39,10 @@ class Assembly {
     std::string version() const;
 
     std::vector<std::unique_ptr<AssemblyPart>> parts_;
-    Document frame_ = Document::empty();
-    Renumbering frameNumbers_;
-    std::map<int, QPDFObjectHandle> standIns_;
+    Frame frame_;
+    int pagesNumber_ = 0;
+    int bookmarksNumber_ = 0;
+    int taggedPartsNumber_ = 0;
     QPDFObjectHandle bookmarks_;
     /// The tree of tags and its one branch, which holds those of the parts.
     QPDFObjectHandle tags_;

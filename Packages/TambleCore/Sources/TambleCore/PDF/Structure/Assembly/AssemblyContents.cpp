@@ -1,5 +1,4 @@
 #include <TambleCore/PDF/Structure/Assembly/Assembly.h>
-#include <TambleCore/PDF/Structure/Copying.h>
 
 #include <algorithm>
 #include <numeric>
@@ -27,11 +26,6 @@ QPDFObjectHandle subdictionary(QPDFObjectHandle parent, const std::string& key) 
 QPDFObjectHandle sublist(QPDFObjectHandle parent, const std::string& key) {
     if (!parent.getKey(key).isArray()) parent.replaceKey(key, QPDFObjectHandle::newArray());
     return parent.getKey(key);
-}
-
-/// A copy that is no object of its own, so that what is in it can be seen.
-QPDFObjectHandle direct(QPDFObjectHandle object) {
-    return object.isIndirect() && !object.isStream() ? object.shallowCopy() : object;
 }
 
 /// More than any document has; a damaged one may say anything.
@@ -96,13 +90,13 @@ void Assembly::addFields(AssemblyPart& part) {
     }
 }
 
-void Assembly::addLabels(const AssemblyPart& part) {
+void Assembly::addLabels(AssemblyPart& part) {
     hasLabels_ = hasLabels_ || hasLabels(part.document());
     std::vector<int> pages(static_cast<std::size_t>(part.document().pageCount()));
     std::iota(pages.begin(), pages.end(), 0);
     PageLabels labels;
     appendLabels(part.document(), pages, pageCount_, labels);
-    for (const auto& label : labels) labels_.push_back(copied(label, frame_));
+    for (const auto& label : labels) labels_.push_back(contentInFrame(part, label));
 }
 
 void Assembly::addAttachments(AssemblyPart& part) {
@@ -117,11 +111,11 @@ void Assembly::addLayers(AssemblyPart& part) {
     auto layers = part.document().root().getKey("/OCProperties");
     if (!layers.isDictionary()) return;
     auto copy = QPDFObjectHandle::newDictionary();
-    copy.replaceKey("/OCGs", inFrame(part, direct(layers.getKey("/OCGs"))));
+    copy.replaceKey("/OCGs", contentInFrame(part, layers.getKey("/OCGs")));
     auto setup = QPDFObjectHandle::newDictionary();
     if (auto own = layers.getKey("/D"); own.isDictionary()) {
         for (const auto& [key, value] : own.getDictAsMap())
-            setup.replaceKey(key, inFrame(part, direct(value)));
+            setup.replaceKey(key, contentInFrame(part, value));
     }
     copy.replaceKey("/D", setup);
     auto root = frame_.root();
@@ -175,13 +169,13 @@ void Assembly::addTags(AssemblyPart& part) {
     }
     for (const char* key : {"/RoleMap", "/ClassMap"}) {
         auto roles = tree.getKey(key);
-        if (roles.isDictionary()) addMissing(subdictionary(whole, key), inFrame(part, direct(roles)));
+        if (roles.isDictionary()) addMissing(subdictionary(whole, key), contentInFrame(part, roles));
     }
     for (const char* key : {"/ParentTree", "/ParentTreeNextKey", "/RoleMap", "/ClassMap", "/IDTree"})
         tree.removeKey(key);
     tree.replaceKey("/Type", QPDFObjectHandle::newName("/StructElem"));
     tree.replaceKey("/S", QPDFObjectHandle::newName("/Document"));
-    tree.replaceKey("/P", part.reference(frameNumbers_.numberOf(taggedParts_.getObjectID())));
+    tree.replaceKey("/P", part.reference(taggedPartsNumber_));
     frame_.root().replaceKey("/StructTreeRoot", tags_);
     subdictionary(frame_.root(), "/MarkInfo").replaceKey("/Marked", QPDFObjectHandle::newBool(true));
 }

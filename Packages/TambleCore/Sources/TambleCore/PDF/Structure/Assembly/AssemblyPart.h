@@ -38,8 +38,11 @@ class AssemblyPart {
     /// Links and bookmarks lead to their places outright, not by names that another part has, too.
     void resolveNames();
 
-    /// Takes along an object that is not reached from its pages.
-    void include(QPDFObjectHandle object) { included_.push_back(object); }
+    /// Takes along an object that is not reached from its pages, and answers its number.
+    int include(QPDFObjectHandle object) {
+        included_.push_back(object);
+        return numberOf(object);
+    }
 
     CarriedObjects objects(const std::stop_token& stop) const;
 

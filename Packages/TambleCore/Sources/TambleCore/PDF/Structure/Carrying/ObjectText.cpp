@@ -83,9 +83,13 @@ class Renumberer {
 
     void takeNumber() {
         if (const auto reference = referenceHere()) {
-            references_.push_back(reference->object);
-            result_ += std::to_string(numbers_.numberOf(reference->object.getObj()));
-            result_ += " 0 R";
+            if (numbers_.nothing.contains(reference->object.getObj())) {
+                result_ += "null";
+            } else {
+                references_.push_back(reference->object);
+                result_ += std::to_string(numbers_.numberOf(reference->object.getObj()));
+                result_ += " 0 R";
+            }
             at_ = reference->end;
         } else if (const auto number = integerAt(at_); isTagKey_ && number) {
             result_ += std::to_string(number->value + numbers_.tagOffset);

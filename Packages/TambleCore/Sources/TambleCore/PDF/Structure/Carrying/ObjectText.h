@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include <qpdf/QPDFObjGen.hh>
@@ -18,6 +19,8 @@ struct Renumbering {
     std::unordered_map<int, int> given = {};
     /// … and of these, which stand for objects of the other document that come from elsewhere.
     std::unordered_map<int, int> standIns = {};
+    /// These are left behind: what refers to them refers to nothing.
+    std::unordered_set<int> nothing = {};
     /// Added to the keys under which content is found in the tree of tags (/StructParent, /StructParents).
     std::int64_t tagOffset = 0;
 
