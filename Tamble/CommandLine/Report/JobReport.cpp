@@ -109,9 +109,33 @@ std::string planLine(const InputFile& file, const outcome::Failed& failed, PlanT
 
 }  // namespace
 
+namespace {
+
+/// How many files a folder that a tool wrote holds; 0 for a file.
+int filesIn(const std::filesystem::path& output) {
+    std::error_code error;
+    int count = 0;
+    for (std::filesystem::directory_iterator entry(output, error), end; !error && entry != end;
+         entry.increment(error))
+        ++count;
+    return count;
+}
+
+std::string savedText(const JobTotals& totals) {
+    const std::string files = countText(totals.saved, "new file", "new files");
+    if (totals.savedFolders == 0) return files;
+    return fmt::format("{} in {}", files, countText(totals.savedFolders, "new folder", "new folders"));
+}
+
+}  // namespace
+
 JobTotals JobTotals::of(const JobResult& result) {
     JobTotals totals;
-    totals.saved = static_cast<int>(result.undo.createdFiles.size());
+    for (const auto& output : result.undo.createdFiles) {
+        const int files = filesIn(output);
+        totals.savedFolders += files > 0 ? 1 : 0;
+        totals.saved += std::max(files, 1);
+    }
     for (const auto& item : result.items) {
         if (std::holds_alternative<outcome::Done>(item.outcome)) totals.bytesBefore += item.file.byteSize;
         if (std::holds_alternative<outcome::Skipped>(item.outcome)) ++totals.skipped;
@@ -136,8 +160,7 @@ std::string closingLine(const JobResult& result, const std::string& undoCommand)
     }
     std::vector<std::string> parts;
     if (totals.saved > 0) {
-        parts.push_back(fmt::format("Saved {}, {} → {} ({}).",
-                                    countText(totals.saved, "new file", "new files"),
+        parts.push_back(fmt::format("Saved {}, {} → {} ({}).", savedText(totals),
                                     sizeText(totals.bytesBefore), sizeText(totals.bytesAfter),
                                     changeText(totals.bytesBefore, totals.bytesAfter)));
     } else {

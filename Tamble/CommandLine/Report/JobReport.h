@@ -10,7 +10,9 @@ namespace tamble {
 /// How many inputs ended how, and what became of their bytes.
 struct JobTotals {
     /// New files; one for a tool that makes one of many.
+    /// Files, also those in folders that a tool wrote.
     int saved = 0;
+    int savedFolders = 0;
     int skipped = 0;
     int failed = 0;
     /// Of the inputs that were done, and of the new files.

@@ -91,12 +91,13 @@ void FileWriter::finish(int catalog, std::optional<int> information) {
     entry(number) = {.kind = inFile, .place = start};
     const std::string identifier = newIdentifier();
     const std::string info = information ? fmt::format("/Info {} 0 R ", *information) : "";
-    addStream(
-        number,
-        fmt::format(
-            "<< /Type /XRef /Size {} /Root {} 0 R {}/ID [<{}> <{}>] /W [{} {} {}] /Filter /FlateDecode ",
-            entries_.size(), catalog, info, identifier, identifier, widths[0], widths[1], widths[2]),
-        deflated(packedEntries(), packLevel));
+    const Table places = table();
+    addStream(number,
+              fmt::format("<< /Type /XRef /Size {} /Index [{}] /Root {} 0 R {}/ID [<{}> <{}>] /W [{} {} {}] "
+                          "/Filter /FlateDecode ",
+                          entries_.size(), places.runs, catalog, info, identifier, identifier, widths[0],
+                          widths[1], widths[2]),
+              deflated(places.entries, packLevel));
     write(fmt::format("startxref\n{}\n%%EOF\n", start));
     flush();
 }
@@ -107,14 +108,22 @@ void FileWriter::closePack() {
     addPack(std::exchange(pack_, {}));
 }
 
-std::string FileWriter::packedEntries() const {
-    std::string packed;
-    for (const Entry& entry : entries_) {
-        appendNumber(packed, entry.kind, widths[0]);
-        appendNumber(packed, entry.place, widths[1]);
-        appendNumber(packed, entry.index, widths[2]);
+FileWriter::Table FileWriter::table() const {
+    Table table;
+    // Number 0 is nobody's, and always there.
+    const auto isInUse = [this](std::size_t number) { return number == 0 || entries_[number].kind != 0; };
+    for (std::size_t first = 0; first < entries_.size();) {
+        std::size_t end = first;
+        while (end < entries_.size() && isInUse(end)) {
+            const Entry& entry = entries_[end++];
+            appendNumber(table.entries, entry.kind, widths[0]);
+            appendNumber(table.entries, entry.place, widths[1]);
+            appendNumber(table.entries, entry.index, widths[2]);
+        }
+        if (end > first) table.runs += fmt::format("{} {} ", first, end - first);
+        first = end + 1;
     }
-    return packed;
+    return table;
 }
 
 void FileWriter::write(std::string_view bytes) {

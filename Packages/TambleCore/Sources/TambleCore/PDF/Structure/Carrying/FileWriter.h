@@ -64,7 +64,12 @@ class FileWriter {
     void closePack();
     void write(std::string_view bytes);
     void flush();
-    std::string packedEntries() const;
+    struct Table {
+        /// The first number and the length of each run of numbers that are in use.
+        std::string runs;
+        std::string entries;
+    };
+    Table table() const;
 
     std::filesystem::path file_;
     FileDescriptor descriptor_;
