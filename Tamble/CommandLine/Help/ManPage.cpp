@@ -1,4 +1,5 @@
 #include <Tamble/CommandLine/Arguments/CommandTable.h>
+#include <Tamble/CommandLine/Arguments/PasswordArguments.h>
 #include <Tamble/CommandLine/Help/HelpPages.h>
 #include <Tamble/CommandLine/Help/ManPage.h>
 #include <Tamble/CommandLine/Version.h>
@@ -80,8 +81,9 @@ std::string toolText(const ToolInfo& info) {
 }
 
 std::string settingsText(const ToolInfo& info) {
-    return fmt::format(".PP\n.I All settings of {}\n{}", escaped(info.id),
-                       body(settingsSection(*ToolCatalog::definition(info.id))));
+    const ToolDefinition& tool = *ToolCatalog::definition(info.id);
+    return fmt::format(".PP\n.I All settings of {}\n{}{}", escaped(info.id), body(settingsSection(tool)),
+                       body(optionSection({}, passwordOptions(tool.password))));
 }
 
 }  // namespace

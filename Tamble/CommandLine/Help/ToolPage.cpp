@@ -68,7 +68,7 @@ std::string defaultText(const ToolDefinition& tool, const CommandOption& option)
         if (field.flag() != option.name) continue;
         const Json value = tool.defaults.value(field.name, Json());
         if (field.type.kind == SettingKind::boolean) return value == Json(true) ? "on" : "";
-        return value.is_null() ? "" : settingText(value);
+        return value.is_null() || value.is_array() ? "" : settingText(value);
     }
     return {};
 }
