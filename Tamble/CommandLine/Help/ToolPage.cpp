@@ -79,6 +79,8 @@ std::vector<HelpSection> panelSections(const ToolDefinition& tool) {
     std::vector<HelpSection> sections;
     for (const auto& section : tool.panel.sections) {
         HelpSection shown = panelSection(tool, section);
+        // A password has options of its own.
+        if (shown.entries.empty() && shown.note.empty()) continue;
         // A section without a heading belongs to the one before it.
         if (shown.heading.empty() && !sections.empty()) {
             auto& last = sections.back();

@@ -6,26 +6,39 @@
 #include <TambleCore/Support/Text.h>
 
 namespace tamble::pdf {
+namespace {
+
+/// Only the lock changes.
+void keepAsItIs(QPDFWriter& writer) {
+    writer.setObjectStreamMode(qpdf_o_preserve);
+}
+
+}  // namespace
 
 void addPassword(const SingleWork& work) {
     const std::string& password = work.settings.password;
     if (characterCount(password) < shortestPassword) throw PDFError(PDFError::Case::passwordMissing);
-    const Document document = Document::open(work.file.url, password);
+    const Document document = Document::openUnseen(work.file.url, password);
     if (isSealed(document)) work.context.leave(ItemNote::sealBroken);
-    save(document, work.destination, work.context, 0, [&](QPDFWriter& writer) { encrypt(writer, password); });
+    save(document, work.destination, work.context, 0, [&](QPDFWriter& writer) {
+        keepAsItIs(writer);
+        encrypt(writer, password);
+    });
 }
 
 void removePassword(const SingleWork& work) {
     const std::string& password = work.settings.password;
-    const Document document = Document::open(work.file.url, password);
+    const Document document = Document::openUnseen(work.file.url, password);
     if (!document.qpdf().isEncrypted()) throw ProcessorSkip(skip::NoPassword{});
     if (!document.isLocked() && !document.isOwnedBy(password)) {
         // Anybody may open it, but its owner reserved what may be done with it.
         throw PDFError(password.empty() ? PDFError::Case::locked : PDFError::Case::couldNotRemovePassword);
     }
     if (isSealed(document)) work.context.leave(ItemNote::sealBroken);
-    save(document, work.destination, work.context, 0,
-         [](QPDFWriter& writer) { writer.setPreserveEncryption(false); });
+    save(document, work.destination, work.context, 0, [](QPDFWriter& writer) {
+        keepAsItIs(writer);
+        writer.setPreserveEncryption(false);
+    });
 }
 
 }  // namespace tamble::pdf

@@ -41,6 +41,12 @@ std::shared_ptr<QPDF> openedWith(const MappedFile& file, const std::string& pass
 }  // namespace
 
 Document Document::open(const std::filesystem::path& file, const std::string& password) {
+    Document document = openUnseen(file, password);
+    document.requirePages();
+    return document;
+}
+
+Document Document::openUnseen(const std::filesystem::path& file, const std::string& password) {
     Document document;
     try {
         document.file_ = std::make_shared<MappedFile>(file);
@@ -59,7 +65,6 @@ Document Document::open(const std::filesystem::path& file, const std::string& pa
     } catch (const std::runtime_error& error) {
         throw PDFError(PDFError::Case::unreadable, error.what());
     }
-    if (document.pages().empty()) throw PDFError(PDFError::Case::unreadable, "It has no pages.");
     return document;
 }
 
@@ -76,6 +81,10 @@ const std::vector<QPDFObjectHandle>& Document::pages() const {
     } catch (const std::exception& error) {
         throw PDFError(PDFError::Case::unreadable, error.what());
     }
+}
+
+void Document::requirePages() const {
+    if (pages().empty()) throw PDFError(PDFError::Case::unreadable, "It has no pages.");
 }
 
 bool Document::isOwnedBy(const std::string& password) const {

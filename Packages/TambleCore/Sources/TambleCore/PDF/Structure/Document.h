@@ -18,8 +18,10 @@ namespace tamble::pdf {
 /// valid; streams that other documents took from it are read when those are saved.
 class Document {
   public:
-    /// Throws PDFError: unreadable, locked, wrongPassword.
+    /// A document with pages. Throws PDFError: unreadable, locked, wrongPassword.
     static Document open(const std::filesystem::path& file, const std::string& password);
+    /// The same without a look at the pages, which takes a large document a while.
+    static Document openUnseen(const std::filesystem::path& file, const std::string& password);
     /// A new document without pages.
     static Document empty();
 
@@ -36,6 +38,7 @@ class Document {
 
   private:
     Document() = default;
+    void requirePages() const;
 
     /// Empty for a new document.
     std::shared_ptr<MappedFile> file_;
