@@ -61,3 +61,14 @@ def still_hidden(folder: Path) -> str:
     telling = sum(1 for entry in entries if any(not key.startswith(HARMLESS) and not key.endswith(REQUIRED) for key in entry))
     upright = sum(1 for entry in entries if "IFD0:Orientation" in entry)
     return f"{telling} still tell something, {upright} keep their orientation"
+
+
+def page_count(file: Path) -> int:
+    answer = subprocess.run(["qpdf", "--show-npages", str(file)], capture_output=True, text=True, check=False).stdout
+    return int(answer) if answer.strip() else 0
+
+
+def bookmark_count(file: Path) -> int:
+    """As an independent reader lists them."""
+    answer = subprocess.run(["mutool", "show", str(file), "outline"], capture_output=True, text=True, check=False).stdout
+    return len(answer.splitlines())

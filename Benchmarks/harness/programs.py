@@ -30,6 +30,11 @@ KNOWN = {
         Program("qpdf", "qpdf", ("--version",), "qpdf"),
         Program("vips", "vips", ("--version",), "libvips-tools"),
         Program("vipsthumbnail", "vipsthumbnail", ("--vips-version",), "libvips-tools"),
+        Program("img2pdf", "img2pdf", ("--version",), "img2pdf"),
+        Program("pdfunite", "pdfunite", ("-v",), "poppler-utils"),
+        Program("pdftoppm", "pdftoppm", ("-v",), "poppler-utils"),
+        Program("mutool", "mutool", ("-v",), "mupdf-tools"),
+        Program("gs", "gs", ("--version",), "ghostscript"),
         Program("cp", "cp", ("--version",), "coreutils"),
     )
 }

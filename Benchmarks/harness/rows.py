@@ -35,6 +35,8 @@ class Inputs:
     small_files: Path
     tamble: Path
     bench: Path
+    # Folders of PDFs, by what is done with them.
+    documents: dict = field(default_factory=dict)
 
 
 @dataclass(frozen=True)
