@@ -32,6 +32,11 @@ ImageConverter::Memory ImageConverter::encodedData(const std::filesystem::path& 
     return data;
 }
 
+void ImageConverter::encode(const Raster& picture, const Drawn& how, const Target& target,
+                            const WorkContext& context) const {
+    imageEngine().encode(picture, how, target, context);
+}
+
 namespace ImageCapabilities {
 
 bool canWrite(ImageFormat format) {

@@ -2,6 +2,7 @@
 
 #include <TambleCore/Images/ConversionError.h>
 #include <TambleCore/Images/ImageJobSettings.h>
+#include <TambleCore/Images/Raster.h>
 #include <TambleCore/Support/WorkContext.h>
 
 #include <cstddef>
@@ -29,6 +30,18 @@ class ImageConverter {
     /// The same work into memory.
     Memory encodedData(const std::filesystem::path& source, const ImageJobSettings& settings,
                        std::optional<ImageFormat> format, const WorkContext& context = {}) const;
+
+    /// How a drawn picture is written.
+    struct Drawn {
+        ImageFormat format = ImageFormat::png;
+        /// The lossy formats' compression factor, 0…1.
+        double factor = 0.8;
+        /// Written into the file, but for GIF, which cannot say it.
+        double dotsPerInch = 72;
+    };
+    /// Writes a picture that was drawn rather than decoded, as a page is. Throws as convert() does.
+    void encode(const Raster& picture, const Drawn& how, const Target& target,
+                const WorkContext& context = {}) const;
 };
 
 /// What this machine can write.

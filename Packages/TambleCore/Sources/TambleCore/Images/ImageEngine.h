@@ -12,6 +12,8 @@ class ImageEngine {
     virtual void convert(const std::filesystem::path& source, const ImageConverter::Target& target,
                          const ImageJobSettings& settings, std::optional<ImageFormat> format,
                          const WorkContext& context) const = 0;
+    virtual void encode(const Raster& picture, const ImageConverter::Drawn& how,
+                        const ImageConverter::Target& target, const WorkContext& context) const = 0;
     virtual bool canWrite(ImageFormat format) const = 0;
     virtual bool imageIOWritesWebP() const = 0;
 };

@@ -14,6 +14,9 @@ struct Encoding {
     bool smallest = false;
     /// WebP only: keep every pixel as it is.
     bool lossless = false;
+    /// PNG only: most pixels look like their neighbours, as on pages of text. What helps photographs would
+    /// cost time and make such pictures larger.
+    bool flat = false;
 };
 
 /// An encoded picture without any metadata or profile, and its sides.

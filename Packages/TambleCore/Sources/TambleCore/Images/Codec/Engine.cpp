@@ -1,5 +1,6 @@
 #include <TambleCore/Images/Codec/Container.h>
 #include <TambleCore/Images/Codec/Conversion.h>
+#include <TambleCore/Images/Codec/Drawing.h>
 #include <TambleCore/Images/Codec/Files.h>
 #include <TambleCore/Images/Codec/PictureCount.h>
 #include <TambleCore/Images/Codec/VipsLibrary.h>
@@ -37,6 +38,14 @@ Bytes converted(const std::filesystem::path& source, const ImageJobSettings& set
         .result();
 }
 
+void deliver(Bytes file, const ImageConverter::Target& target) {
+    if (const auto* path = std::get_if<std::filesystem::path>(&target)) {
+        writeNew(*path, file);
+    } else {
+        std::get<std::reference_wrapper<ImageConverter::Memory>>(target).get() = std::move(file);
+    }
+}
+
 class Engine : public ImageEngine {
   public:
     Engine() { startVips(); }
@@ -45,14 +54,19 @@ class Engine : public ImageEngine {
                  const ImageJobSettings& settings, std::optional<ImageFormat> format,
                  const WorkContext& context) const override {
         try {
-            Bytes result = converted(source, settings, format, context);
-            if (const auto* path = std::get_if<std::filesystem::path>(&target)) {
-                writeNew(*path, result);
-            } else {
-                std::get<std::reference_wrapper<ImageConverter::Memory>>(target).get() = std::move(result);
-            }
+            deliver(converted(source, settings, format, context), target);
         } catch (const std::bad_alloc&) {
             throw ConversionError(ConversionError::Case::cannotDecode, "Not enough memory");
+        }
+    }
+    void encode(const Raster& picture, const ImageConverter::Drawn& how, const ImageConverter::Target& target,
+                const WorkContext& context) const override {
+        try {
+            if (!canBeWritten(how.format))
+                throw ConversionError(ConversionError::Case::cannotWrite, std::string(displayName(how.format)));
+            deliver(encodedDrawing(picture, how, context), target);
+        } catch (const std::bad_alloc&) {
+            throw ConversionError(ConversionError::Case::encodeFailed, "Not enough memory");
         }
     }
     bool canWrite(ImageFormat format) const override { return canBeWritten(format); }

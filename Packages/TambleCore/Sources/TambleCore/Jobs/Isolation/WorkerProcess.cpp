@@ -1,12 +1,11 @@
 #include <TambleCore/Jobs/Isolation/WorkerMessage.h>
 #include <TambleCore/Jobs/Isolation/WorkerProcess.h>
+#include <TambleCore/Platform/ProcessEnd.h>
 #include <TambleCore/Support/Log.h>
 
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstring>
-#include <ctime>
 #include <system_error>
 #include <vector>
 
@@ -93,14 +92,6 @@ struct SpawnPlan {
     SpawnPlan& operator=(const SpawnPlan&) = delete;
 };
 
-std::string endOf(int status) {
-    if (WIFSIGNALED(status)) {
-        const char* name = ::sigabbrev_np(WTERMSIG(status));
-        return fmt::format("ended by SIG{}", name == nullptr ? std::to_string(WTERMSIG(status)) : name);
-    }
-    return fmt::format("left with status {}", WEXITSTATUS(status));
-}
-
 }  // namespace
 
 WorkerProcess::WorkerProcess(const std::filesystem::path& program, const WorkerPermit& permit,
@@ -175,10 +166,7 @@ bool WorkerProcess::isQuiet() const {
 }
 
 std::chrono::nanoseconds WorkerProcess::processorTime() const {
-    clockid_t clock{};
-    timespec used{};
-    if (::clock_getcpuclockid(process_, &clock) != 0 || ::clock_gettime(clock, &used) != 0) return {};
-    return std::chrono::seconds(used.tv_sec) + std::chrono::nanoseconds(used.tv_nsec);
+    return tamble::processorTime(process_);
 }
 
 std::string WorkerProcess::end() {
@@ -190,7 +178,7 @@ std::string WorkerProcess::end() {
     process_ = -1;
     takeWords();
     logWords(true);
-    return endOf(status);
+    return processEnd(status);
 }
 
 void WorkerProcess::takeWords() {

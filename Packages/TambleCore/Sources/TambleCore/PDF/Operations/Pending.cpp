@@ -7,8 +7,5 @@ namespace tamble::pdf {
 void compress(const SingleWork&) {
     throw std::logic_error("pending");
 }
-void toImages(const SingleWork&) {
-    throw std::logic_error("pending");
-}
 
 }  // namespace tamble::pdf
