@@ -26,6 +26,8 @@ void sign(const SingleWork& work);
 void addPassword(const SingleWork& work);
 void removePassword(const SingleWork& work);
 void toImages(const SingleWork& work);
+/// Every page becomes a picture, in place: what PDFCompression::smallest means.
+void makePagesPictures(const SingleWork& work);
 
 /// Many files that become one.
 struct CombinedWork {

@@ -4,7 +4,8 @@
 
 namespace tamble::pdf {
 
-void compress(const SingleWork&) {
+void compress(const SingleWork& work) {
+    if (work.settings.compression == PDFCompression::smallest) return makePagesPictures(work);
     throw std::logic_error("pending");
 }
 

@@ -55,13 +55,14 @@ Raster PageRenderer::page(int index, PagePixels size, const std::stop_token& sto
     return result;
 }
 
-void PageRenderer::pages(int first, int end, double dpi, const Taker& take,
+void PageRenderer::pages(int first, int end, const Resolution& resolution, const Taker& take,
                          const std::stop_token& stop) const {
+    // The drawing program takes every unit for a point.
+    const auto dotsPer72Units = [&](int page) { return resolution(page) * geometry(page).unit; };
     while (first < end) {
-        // The drawing program takes every unit for a point.
         int same = first + 1;
-        while (same < end && geometry(same).unit == geometry(first).unit) ++same;
-        draw({.next = first, .end = same, .dpi = dpi, .size = {}, .stop = stop}, take);
+        while (same < end && dotsPer72Units(same) == dotsPer72Units(first)) ++same;
+        draw({.next = first, .end = same, .dpi = resolution(first), .size = {}, .stop = stop}, take);
         first = same;
     }
 }

@@ -26,10 +26,13 @@ class PageRenderer {
     /// Cancelled.
     Raster page(int index, PagePixels size, const std::stop_token& stop) const;
 
+    /// How many dots per inch a page is drawn with.
+    using Resolution = std::function<double(int page)>;
     using Taker = std::function<void(int page, Raster picture)>;
-    /// The pages from `first` up to `end` at that resolution, in colour, handed over in their order as they
-    /// come. What the taker throws ends the work. Throws PDFError: pageTooLarge, pageFailed; Cancelled.
-    void pages(int first, int end, double dpi, const Taker& take, const std::stop_token& stop) const;
+    /// The pages from `first` up to `end`, in colour, handed over in their order as they come. What the taker
+    /// throws ends the work. Throws PDFError: pageTooLarge, pageFailed; Cancelled.
+    void pages(int first, int end, const Resolution& resolution, const Taker& take,
+               const std::stop_token& stop) const;
 
   private:
     struct Order;

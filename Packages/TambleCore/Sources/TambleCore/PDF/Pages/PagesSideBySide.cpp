@@ -19,9 +19,9 @@ constexpr int leastRunsPerLane = 4;
 /// The work on all pages; each lane takes the next few until none are left.
 class Lanes {
   public:
-    Lanes(const PageRenderer& renderer, double dpi, const PageRenderer::Taker& take,
+    Lanes(const PageRenderer& renderer, const PageRenderer::Resolution& resolution, const PageRenderer::Taker& take,
           const WorkContext& context)
-        : renderer_(renderer), dpi_(dpi), take_(take), context_(context), stopping_(context.stop, [this] {
+        : renderer_(renderer), resolution_(resolution), take_(take), context_(context), stopping_(context.stop, [this] {
               end_.request_stop();
           }) {}
 
@@ -42,7 +42,7 @@ class Lanes {
         try {
             while (const auto first = nextRun()) {
                 const int end = std::min(*first + pagesPerRun_, renderer_.pageCount());
-                renderer_.pages(*first, end, dpi_,
+                renderer_.pages(*first, end, resolution_,
                                 [this](int page, Raster picture) { takeOne(page, std::move(picture)); },
                                 end_.get_token());
             }
@@ -92,7 +92,7 @@ class Lanes {
     }
 
     const PageRenderer& renderer_;
-    const double dpi_;
+    const PageRenderer::Resolution& resolution_;
     const PageRenderer::Taker& take_;
     const WorkContext& context_;
     int pagesPerRun_ = 1;
@@ -108,10 +108,10 @@ class Lanes {
     std::exception_ptr failure_;
 };
 
-int laneCount(const PageRenderer& renderer, double dpi) {
+int laneCount(const PageRenderer& renderer, const PageRenderer::Resolution& resolution) {
     double largest = 1;
     for (int page = 0; page < renderer.pageCount(); ++page) {
-        const auto size = pixelsOf(renderer.geometry(page), dpi);
+        const auto size = pixelsOf(renderer.geometry(page), resolution(page));
         if (!size) throw PDFError(PDFError::Case::pageTooLarge);
         largest = std::max(largest, 3.0 * size->width * size->height);
     }
@@ -122,9 +122,9 @@ int laneCount(const PageRenderer& renderer, double dpi) {
 
 }  // namespace
 
-void drawSideBySide(const PageRenderer& renderer, double dpi, const PageRenderer::Taker& take,
-                    const WorkContext& context) {
-    Lanes(renderer, dpi, take, context).run(laneCount(renderer, dpi));
+void drawSideBySide(const PageRenderer& renderer, const PageRenderer::Resolution& resolution,
+                    const PageRenderer::Taker& take, const WorkContext& context) {
+    Lanes(renderer, resolution, take, context).run(laneCount(renderer, resolution));
 }
 
 }  // namespace tamble::pdf

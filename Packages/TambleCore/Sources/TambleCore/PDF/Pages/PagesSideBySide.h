@@ -5,9 +5,9 @@
 
 namespace tamble::pdf {
 
-/// Draws all pages of a document at that resolution and hands each to `take`, from several threads at once
-/// and in no order; reports progress. Throws what PageRenderer::pages and `take` throw.
-void drawSideBySide(const PageRenderer& renderer, double dpi, const PageRenderer::Taker& take,
-                    const WorkContext& context);
+/// Draws all pages of a document and hands each to `take`, from several threads at once and in no order;
+/// reports progress. Throws what PageRenderer::pages and `take` throw.
+void drawSideBySide(const PageRenderer& renderer, const PageRenderer::Resolution& resolution,
+                    const PageRenderer::Taker& take, const WorkContext& context);
 
 }  // namespace tamble::pdf
