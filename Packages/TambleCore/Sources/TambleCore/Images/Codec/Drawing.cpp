@@ -9,6 +9,9 @@
 namespace tamble {
 namespace {
 
+/// In bytes: optimizing a JPEG takes twice the picture's memory besides, and drawings share a gibibyte.
+constexpr std::size_t mostToOptimize = 200'000'000;
+
 /// Around the picture's own memory.
 vips::VImage viewOf(const Raster& picture) {
     VipsImage* const image =
@@ -97,7 +100,10 @@ Bytes encodedDrawing(const Raster& picture, const ImageConverter::Drawn& how, co
         vips::VImage image = colouredFor(watch.over(viewOf(picture)), how.format, false).image;
         const double perMillimetre = how.dotsPerInch / millimetresPerInch;
         image = image.copy(vips::VImage::option()->set("xres", perMillimetre)->set("yres", perMillimetre));
-        return encoded(std::move(image), how, {.factor = how.factor, .flat = isFlat(picture)}, watch);
+        const Encoding encoding{.factor = how.factor,
+                                .lean = picture.samples.size() > mostToOptimize,
+                                .flat = isFlat(picture)};
+        return encoded(std::move(image), how, encoding, watch);
     } catch (const vips::VError& error) {
         context.throwIfStopped();
         throw ConversionError(ConversionError::Case::encodeFailed, error.what());

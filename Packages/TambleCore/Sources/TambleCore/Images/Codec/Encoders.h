@@ -12,6 +12,8 @@ struct Encoding {
     double factor = 0.8;
     /// Take more time for a smaller file.
     bool smallest = false;
+    /// JPEG only: take as little memory as the picture itself has, for a file that is a little larger.
+    bool lean = false;
     /// WebP only: keep every pixel as it is.
     bool lossless = false;
     /// PNG only: most pixels look like their neighbours, as on pages of text. What helps photographs would

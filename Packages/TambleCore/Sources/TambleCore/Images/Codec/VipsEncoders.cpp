@@ -9,7 +9,7 @@ Bytes encodedJpeg(const vips::VImage& image, const Encoding& encoding) {
     return savedByVips(image, "jpegsave_buffer",
                        vips::VImage::option()
                            ->set("Q", static_cast<int>(std::lround(encoding.factor * 100)))
-                           ->set("optimize_coding", true)
+                           ->set("optimize_coding", !encoding.lean)
                            ->set("interlace", encoding.smallest)
                            ->set("strip", true));
 }

@@ -69,7 +69,7 @@ void become(QPDFObjectHandle page, const QPDFObjectHandle& picture, const PageGe
     keepKeys(page, {"/Type", "/Parent", "/MediaBox", "/CropBox", "/BleedBox", "/TrimBox", "/ArtBox", "/Rotate",
                     "/UserUnit", "/Dur", "/Trans", "/Annots"});
     if (!page.getKey("/MediaBox").isRectangle())
-        page.replaceKey("/MediaBox", QPDFObjectHandle::newFromRectangle(geometry.box));
+        page.replaceKey("/MediaBox", QPDFObjectHandle::newFromRectangle(geometry.media));
     auto pictures = QPDFObjectHandle::newDictionary();
     pictures.replaceKey("/Page", picture);
     auto resources = QPDFObjectHandle::newDictionary();

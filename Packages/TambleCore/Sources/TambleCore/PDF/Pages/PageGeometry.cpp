@@ -47,10 +47,10 @@ bool isEmpty(const Rectangle& box) {
 
 PageGeometry PageGeometry::of(QPDFObjectHandle page) {
     PageGeometry geometry;
-    Rectangle media = rectangle(attribute(page, "/MediaBox")).value_or(letter());
-    if (isEmpty(media)) media = letter();
-    geometry.box = within(rectangle(attribute(page, "/CropBox")).value_or(media), media);
-    if (isEmpty(geometry.box)) geometry.box = media;
+    geometry.media = rectangle(attribute(page, "/MediaBox")).value_or(letter());
+    if (isEmpty(geometry.media)) geometry.media = letter();
+    geometry.box = within(rectangle(attribute(page, "/CropBox")).value_or(geometry.media), geometry.media);
+    if (isEmpty(geometry.box)) geometry.box = geometry.media;
     if (auto turn = attribute(page, "/Rotate"); turn.isInteger())
         geometry.rotation = static_cast<int>((turn.getIntValue() % 360 + 360) % 360 / 90 * 90);
     if (auto unit = page.getKey("/UserUnit"); unit.isNumber()) {

@@ -8,7 +8,9 @@ namespace tamble::pdf {
 
 /// How a page is shown.
 struct PageGeometry {
-    /// The part of the page that is shown, as it lies in the page's own coordinates.
+    /// The whole page, in its own coordinates.
+    QPDFObjectHandle::Rectangle media;
+    /// The part of it that is shown.
     QPDFObjectHandle::Rectangle box;
     /// Degrees clockwise by which it is turned to be shown: 0, 90, 180 or 270.
     int rotation = 0;

@@ -16,14 +16,21 @@ constexpr Log pagesLog("pages");
 constexpr const char* drawingProgram = "pdftoppm";
 /// What the largest page takes, and what a bomb may take.
 constexpr std::uint64_t drawingMemory = std::uint64_t{1} << 30U;
-/// For a page: maps and plans take a few seconds, and a document that wastes time must end within 30 s.
-constexpr std::chrono::seconds drawingTime{20};
+/// Processor time for a page: maps take a few seconds, and a document that wastes time must end within 30 s.
+constexpr std::chrono::seconds drawingTime{12};
+/// Large pictures take longer.
+constexpr double pixelsPerSecond = 5e6;
 
 /// An unnamed file in memory: an opened document has no business on a disk.
 FileDescriptor memoryFile() {
     FileDescriptor file(::memfd_create("document", MFD_CLOEXEC));
     if (!file) throw PDFError(PDFError::Case::pageFailed, lastSystemError().message());
     return file;
+}
+
+std::chrono::seconds timeFor(PagePixels size) {
+    const double pixels = double{1} * size.width * size.height;
+    return drawingTime + std::chrono::seconds(static_cast<int>(pixels / pixelsPerSecond));
 }
 
 std::string decimal(double number) {
@@ -38,8 +45,16 @@ struct PageRenderer::Order {
     int end;
     double dpi;
     /// In place of the resolution.
-    std::optional<PagePixels> size;
+    std::optional<PagePixels> fixedSize;
     const std::stop_token& stop;
+
+    /// Of the next page. Throws PDFError::pageTooLarge.
+    PagePixels size(const PageRenderer& renderer) const {
+        const auto size = fixedSize ? fixedSize : pixelsOf(renderer.geometry(next), dpi);
+        if (!size || double{1} * size->width * size->height > mostPagePixels)
+            throw PDFError(PDFError::Case::pageTooLarge);
+        return *size;
+    }
 };
 
 PageRenderer::PageRenderer(const Document& document, const std::filesystem::path& file)
@@ -50,7 +65,7 @@ PageRenderer::PageRenderer(const Document& document, const std::filesystem::path
 
 Raster PageRenderer::page(int index, PagePixels size, const std::stop_token& stop) const {
     Raster result;
-    draw({.next = index, .end = index + 1, .dpi = 0, .size = size, .stop = stop},
+    draw({.next = index, .end = index + 1, .dpi = 0, .fixedSize = size, .stop = stop},
          [&](int, Raster picture) { result = std::move(picture); });
     return result;
 }
@@ -62,7 +77,7 @@ void PageRenderer::pages(int first, int end, const Resolution& resolution, const
     while (first < end) {
         int same = first + 1;
         while (same < end && dotsPer72Units(same) == dotsPer72Units(first)) ++same;
-        draw({.next = first, .end = same, .dpi = resolution(first), .size = {}, .stop = stop}, take);
+        draw({.next = first, .end = same, .dpi = resolution(first), .fixedSize = {}, .stop = stop}, take);
         first = same;
     }
 }
@@ -82,28 +97,25 @@ void PageRenderer::draw(Order order, const Taker& take) const {
 }
 
 void PageRenderer::drawFrom(const FileDescriptor& file, Order& order, const Taker& take) const {
+    const auto patience = timeFor(order.size(*this));
     ChildCommand command{.program = drawingProgram,
                          .arguments = {"-q", "-cropbox", "-f", std::to_string(order.next + 1), "-l",
                                        std::to_string(order.end)},
                          .files = {file.number()},
                          .memory = drawingMemory,
-                         .processor = drawingTime * (order.end - order.next),
-                         .patience = drawingTime};
-    if (order.size) {
-        command.arguments.insert(command.arguments.end(),
-                                 {"-scale-to-x", std::to_string(order.size->width), "-scale-to-y",
-                                  std::to_string(order.size->height)});
+                         .processor = patience * (order.end - order.next + 1),
+                         .patience = patience};
+    auto& arguments = command.arguments;
+    if (order.fixedSize) {
+        arguments.insert(arguments.end(), {"-scale-to-x", std::to_string(order.fixedSize->width),
+                                           "-scale-to-y", std::to_string(order.fixedSize->height)});
     } else {
-        command.arguments.insert(command.arguments.end(),
-                                 {"-r", decimal(order.dpi * geometry(order.next).unit)});
+        arguments.insert(arguments.end(), {"-r", decimal(order.dpi * geometry(order.next).unit)});
     }
-    command.arguments.emplace_back("/proc/self/fd/3");
+    arguments.emplace_back("/proc/self/fd/3");
     ChildProgram child(command, order.stop);
     while (order.next < order.end) {
-        const auto size = order.size ? order.size : pixelsOf(geometry(order.next), order.dpi);
-        if (!size || double{1} * size->width * size->height > mostPagePixels)
-            throw PDFError(PDFError::Case::pageTooLarge);
-        auto picture = nextPixMap(child, *size);
+        auto picture = nextPixMap(child, order.size(*this));
         if (!picture) child.finish();
         if (!picture) throw ChildFailed(ChildFailed::Reason::misbehaved, "A page is missing");
         take(order.next++, std::move(*picture));
@@ -118,6 +130,11 @@ const FileDescriptor& PageRenderer::rewritten() const {
         // The library closes what it writes to.
         FILE* const stream = ::fdopen(::fcntl(file.number(), F_DUPFD_CLOEXEC, 0), "wb");
         if (stream == nullptr) throw PDFError(PDFError::Case::pageFailed, lastSystemError().message());
+        for (std::size_t page = 0; page < pages_.size(); ++page) {
+            auto boxes = document_.pages()[page];
+            boxes.replaceKey("/MediaBox", QPDFObjectHandle::newFromRectangle(pages_[page].media));
+            boxes.replaceKey("/CropBox", QPDFObjectHandle::newFromRectangle(pages_[page].box));
+        }
         QPDFWriter writer(document_.qpdf());
         writer.setOutputFile("memory", stream, true);
         writer.setDecodeLevel(qpdf_dl_none);

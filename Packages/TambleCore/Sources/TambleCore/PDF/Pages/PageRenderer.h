@@ -39,8 +39,8 @@ class PageRenderer {
 
     void draw(Order order, const Taker& take) const;
     void drawFrom(const FileDescriptor& file, Order& order, const Taker& take) const;
-    /// The document as it was understood here, without a password: for programs that cannot read the
-    /// original.
+    /// The document as it was understood here, boxes included, without a password: for programs that cannot
+    /// read the original.
     const FileDescriptor& rewritten() const;
 
     const Document& document_;
