@@ -12,7 +12,8 @@ constexpr std::size_t pixelsAtOnce = 1 << 14;
 bool isGrey(const std::uint8_t* pixel, std::size_t count) {
     unsigned differences = 0;
     for (const auto* const end = pixel + 3 * count; pixel != end; pixel += 3)
-        differences |= static_cast<unsigned>(pixel[0] ^ pixel[1]) | static_cast<unsigned>(pixel[0] ^ pixel[2]);
+        differences |=
+            static_cast<unsigned>(pixel[0] ^ pixel[1]) | static_cast<unsigned>(pixel[0] ^ pixel[2]);
     return differences == 0;
 }
 

@@ -47,8 +47,7 @@ Pipe newPipe() {
 std::vector<std::string> minimalEnvironment() {
     std::vector<std::string> environment{"LANG=C.UTF-8"};
     for (const char* name : {"PATH", "HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"}) {
-        if (const char* value = std::getenv(name))
-            environment.push_back(std::string(name) + "=" + value);
+        if (const char* value = std::getenv(name)) environment.push_back(std::string(name) + "=" + value);
     }
     return environment;
 }
@@ -112,7 +111,8 @@ struct ChildProgram::Plan {
     }
 
     static bool closeAll(int first, int last) {
-        return first > last || ::close_range(static_cast<unsigned>(first), static_cast<unsigned>(last), 0) == 0;
+        return first > last ||
+               ::close_range(static_cast<unsigned>(first), static_cast<unsigned>(last), 0) == 0;
     }
 
     static void limit(__rlimit_resource_t resource, rlim_t most) {

@@ -2,7 +2,7 @@
 #include <TambleCore/Images/Codec/Drawing.h>
 #include <TambleCore/Images/Codec/FewColours.h>
 #include <TambleCore/Images/ConversionError.h>
-#include <TambleCore/Images/Metadata/Containers/ByteAccess.h>
+#include <TambleCore/Images/Metadata/Containers/JpegSegments.h>
 
 #include <cmath>
 
@@ -15,8 +15,8 @@ constexpr std::size_t mostToOptimize = 200'000'000;
 /// Around the picture's own memory.
 vips::VImage viewOf(const Raster& picture) {
     VipsImage* const image =
-        vips_image_new_from_memory(picture.samples.data(), picture.samples.size(), picture.width, picture.height,
-                                   picture.channels, VIPS_FORMAT_UCHAR);
+        vips_image_new_from_memory(picture.samples.data(), picture.samples.size(), picture.width,
+                                   picture.height, picture.channels, VIPS_FORMAT_UCHAR);
     if (image == nullptr) throw vips::VError();
     image->Type = picture.channels == 1 ? VIPS_INTERPRETATION_B_W : VIPS_INTERPRETATION_sRGB;
     return vips::VImage(image);
@@ -32,7 +32,8 @@ bool isFlat(const Raster& picture) {
     std::size_t looked = 0;
     for (int row = 0; row < picture.height; row += std::max(1, picture.height / rowsLookedAt)) {
         const auto* const samples = picture.samples.data() + static_cast<std::size_t>(row) * rowBytes;
-        for (std::size_t at = channels; at < rowBytes; ++at) same += samples[at] == samples[at - channels] ? 1 : 0;
+        for (std::size_t at = channels; at < rowBytes; ++at)
+            same += samples[at] == samples[at - channels] ? 1 : 0;
         looked += rowBytes - channels;
     }
     return static_cast<double>(same) >= most * static_cast<double>(looked);
@@ -68,10 +69,27 @@ Bytes resolutionBlock(double dotsPerInch) {
     return block;
 }
 
+/// libvips leaves JFIF's segment out with all others.
+Bytes withResolution(const Bytes& encodedPicture, double dotsPerInch) {
+    constexpr auto order = ByteOrder::big;
+    const auto density = static_cast<std::uint16_t>(std::clamp(std::lround(dotsPerInch), 1L, 65'535L));
+    // Version 1.2, dots per inch across and down, no thumbnail.
+    Bytes payload = copied(asBytes("\x01\x02\x01"));
+    appendNumber(payload, density, order);
+    appendNumber(payload, density, order);
+    appendNumber(payload, std::uint16_t{0}, order);
+    Bytes result;
+    jpeg::appendStart(result);
+    const std::size_t start = result.size();
+    jpeg::appendSegment(result, jpeg::Kind::jfif, payload);
+    append(result, ByteView(encodedPicture).subspan(start));
+    return result;
+}
+
 Bytes encoded(vips::VImage image, const ImageConverter::Drawn& how, Encoding encoding, const Watch& watch) {
     switch (how.format) {
         case ImageFormat::jpeg:
-            return encodedJpeg(image, encoding);
+            return withResolution(encodedJpeg(image, encoding), how.dotsPerInch);
         case ImageFormat::png:
             return encodedPng(image, encoding);
         case ImageFormat::tiff:
@@ -100,9 +118,8 @@ Bytes encodedDrawing(const Raster& picture, const ImageConverter::Drawn& how, co
         vips::VImage image = colouredFor(watch.over(viewOf(picture)), how.format, false).image;
         const double perMillimetre = how.dotsPerInch / millimetresPerInch;
         image = image.copy(vips::VImage::option()->set("xres", perMillimetre)->set("yres", perMillimetre));
-        const Encoding encoding{.factor = how.factor,
-                                .lean = picture.samples.size() > mostToOptimize,
-                                .flat = isFlat(picture)};
+        const Encoding encoding{
+            .factor = how.factor, .lean = picture.samples.size() > mostToOptimize, .flat = isFlat(picture)};
         return encoded(std::move(image), how, encoding, watch);
     } catch (const vips::VError& error) {
         context.throwIfStopped();

@@ -63,7 +63,8 @@ class Engine : public ImageEngine {
                 const WorkContext& context) const override {
         try {
             if (!canBeWritten(how.format))
-                throw ConversionError(ConversionError::Case::cannotWrite, std::string(displayName(how.format)));
+                throw ConversionError(ConversionError::Case::cannotWrite,
+                                      std::string(displayName(how.format)));
             deliver(encodedDrawing(picture, how, context), target);
         } catch (const std::bad_alloc&) {
             throw ConversionError(ConversionError::Case::encodeFailed, "Not enough memory");

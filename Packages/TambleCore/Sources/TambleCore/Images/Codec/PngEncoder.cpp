@@ -9,7 +9,9 @@ Bytes encodedPng(const vips::VImage& image, const Encoding& encoding) {
     return savedByVips(
         image, "pngsave_buffer",
         vips::VImage::option()
-            ->set("compression", encoding.smallest ? 9 : encoding.flat ? fast : 6)
+            ->set("compression", encoding.smallest ? 9
+                                 : encoding.flat   ? fast
+                                                   : 6)
             ->set("filter", encoding.flat ? VIPS_FOREIGN_PNG_FILTER_NONE : VIPS_FOREIGN_PNG_FILTER_ALL)
             ->set("strip", true));
 }

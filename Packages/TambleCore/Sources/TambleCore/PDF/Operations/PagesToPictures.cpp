@@ -23,8 +23,8 @@ constexpr double drawingShare = 0.95;
 double resolutionFor(const PageGeometry& page) {
     const double width = page.shownWidth() / 72;
     const double height = page.shownHeight() / 72;
-    return std::min({screenResolution, std::sqrt(mostPixels / (width * height)),
-                     longestSide / std::max(width, height)});
+    return std::min(
+        {screenResolution, std::sqrt(mostPixels / (width * height)), longestSide / std::max(width, height)});
 }
 
 struct StoredPicture {
@@ -66,8 +66,8 @@ std::string placing(const PageGeometry& page) {
 void become(QPDFObjectHandle page, const QPDFObjectHandle& picture, const PageGeometry& geometry,
             const Document& document) {
     QPDF& qpdf = document.qpdf();
-    keepKeys(page, {"/Type", "/Parent", "/MediaBox", "/CropBox", "/BleedBox", "/TrimBox", "/ArtBox", "/Rotate",
-                    "/UserUnit", "/Dur", "/Trans", "/Annots"});
+    keepKeys(page, {"/Type", "/Parent", "/MediaBox", "/CropBox", "/BleedBox", "/TrimBox", "/ArtBox",
+                    "/Rotate", "/UserUnit", "/Dur", "/Trans", "/Annots"});
     if (!page.getKey("/MediaBox").isRectangle())
         page.replaceKey("/MediaBox", QPDFObjectHandle::newFromRectangle(geometry.media));
     auto pictures = QPDFObjectHandle::newDictionary();
@@ -106,8 +106,7 @@ void makePagesPictures(const SingleWork& work) {
             dropUnusedColour(picture);
             ImageConverter::Memory file;
             ImageConverter().encode(
-                picture,
-                {.format = ImageFormat::jpeg, .factor = jpegFactor, .dotsPerInch = resolution(page)},
+                picture, {.format = ImageFormat::jpeg, .factor = jpegFactor, .dotsPerInch = resolution(page)},
                 std::ref(file), encoding);
             pictures[static_cast<std::size_t>(page)] = {picture.width, picture.height, picture.channels,
                                                         store.add(file)};

@@ -107,8 +107,10 @@ void PageRenderer::drawFrom(const FileDescriptor& file, Order& order, const Take
                          .patience = patience};
     auto& arguments = command.arguments;
     if (order.fixedSize) {
-        arguments.insert(arguments.end(), {"-scale-to-x", std::to_string(order.fixedSize->width),
-                                           "-scale-to-y", std::to_string(order.fixedSize->height)});
+        // Without the first, the sides of turned pages would be exchanged.
+        arguments.insert(arguments.end(), {"-scale-dimension-before-rotation", "-scale-to-x",
+                                           std::to_string(order.fixedSize->width), "-scale-to-y",
+                                           std::to_string(order.fixedSize->height)});
     } else {
         arguments.insert(arguments.end(), {"-r", decimal(order.dpi * geometry(order.next).unit)});
     }

@@ -12,18 +12,21 @@ namespace {
 constexpr int mostLanes = 8;
 /// What the pictures of all pages that are at work may take, in bytes; a single one may take more.
 constexpr double mostAtOnce = 256e6;
-/// Pages that one run of the drawing program draws at most; starting it takes as long as drawing a page or two.
+/// Pages that one run of the drawing program draws at most; starting it takes as long as drawing a page or
+/// two.
 constexpr int mostPagesPerRun = 16;
 constexpr int leastRunsPerLane = 4;
 
 /// The work on all pages; each lane takes the next few until none are left.
 class Lanes {
   public:
-    Lanes(const PageRenderer& renderer, const PageRenderer::Resolution& resolution, const PageRenderer::Taker& take,
-          const WorkContext& context)
-        : renderer_(renderer), resolution_(resolution), take_(take), context_(context), stopping_(context.stop, [this] {
-              end_.request_stop();
-          }) {}
+    Lanes(const PageRenderer& renderer, const PageRenderer::Resolution& resolution,
+          const PageRenderer::Taker& take, const WorkContext& context)
+        : renderer_(renderer),
+          resolution_(resolution),
+          take_(take),
+          context_(context),
+          stopping_(context.stop, [this] { end_.request_stop(); }) {}
 
     void run(int lanes) {
         pagesPerRun_ = std::clamp(renderer_.pageCount() / (lanes * leastRunsPerLane), 1, mostPagesPerRun);
@@ -42,9 +45,10 @@ class Lanes {
         try {
             while (const auto first = nextRun()) {
                 const int end = std::min(*first + pagesPerRun_, renderer_.pageCount());
-                renderer_.pages(*first, end, resolution_,
-                                [this](int page, Raster picture) { takeOne(page, std::move(picture)); },
-                                end_.get_token());
+                renderer_.pages(
+                    *first, end, resolution_,
+                    [this](int page, Raster picture) { takeOne(page, std::move(picture)); },
+                    end_.get_token());
             }
         } catch (...) {
             const std::scoped_lock lock(mutex_);

@@ -51,8 +51,8 @@ std::optional<Raster> nextPixMap(ChildProgram& child, PagePixels expected) {
     Raster picture{.width = nextNumber(child), .height = nextNumber(child), .channels = 3, .samples = {}};
     if (nextNumber(child) != whitest) refuse("Not 8 bits a sample");
     if (!isPlausible(picture.width, expected.width) || !isPlausible(picture.height, expected.height)) {
-        refuse(fmt::format("{} × {} pixels in place of {} × {}", picture.width, picture.height, expected.width,
-                           expected.height));
+        refuse(fmt::format("{} × {} pixels in place of {} × {}", picture.width, picture.height,
+                           expected.width, expected.height));
     }
     picture.samples.resize(3 * static_cast<std::size_t>(picture.width) *
                            static_cast<std::size_t>(picture.height));

@@ -31,7 +31,8 @@ class Provider final : public QPDFObjectHandle::StreamDataProvider {
         std::array<unsigned char, 65536> part;
         auto at = piece_.at;
         for (std::size_t left = piece_.size; left > 0;) {
-            const ssize_t count = ::pread(file_, part.data(), std::min(left, part.size()), static_cast<off_t>(at));
+            const ssize_t count =
+                ::pread(file_, part.data(), std::min(left, part.size()), static_cast<off_t>(at));
             if (count < 0 && errno == EINTR) continue;
             if (count <= 0) throw PDFError(PDFError::Case::writeFailed, lastSystemError().message());
             pipeline->write(part.data(), static_cast<std::size_t>(count));

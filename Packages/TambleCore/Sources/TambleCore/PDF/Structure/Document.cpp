@@ -58,6 +58,10 @@ Document Document::openUnseen(const std::filesystem::path& file, const std::stri
         }
         if (document.qpdf_ == nullptr) throw PDFError(PDFError::Case::wrongPassword);
         document.qpdf_->getRoot();
+        // Where it is missing, the library would write files that nobody can read.
+        auto trailer = document.qpdf_->getTrailer();
+        if (!trailer.getKey("/Size").isInteger())
+            trailer.replaceKey("/Size", QPDFObjectHandle::newInteger(0));
     } catch (const std::filesystem::filesystem_error& error) {
         throw PDFError(PDFError::Case::unreadable, error.what());
     } catch (const std::logic_error& error) {

@@ -69,8 +69,8 @@ void cleanOutlines(Object outlines, const Places& places) {
         Object item = waiting.back();
         waiting.pop_back();
         if (!item.isDictionary() || (item.isIndirect() && !seen.insert(item.getObjGen()).second)) continue;
-        keepKeys(item, {"/Title", "/Parent", "/Prev", "/Next", "/First", "/Last", "/Count", "/Dest", "/A", "/C",
-                        "/F"});
+        keepKeys(item, {"/Title", "/Parent", "/Prev", "/Next", "/First", "/Last", "/Count", "/Dest", "/A",
+                        "/C", "/F"});
         places.clean(item);
         for (const char* next : {"/Next", "/First"}) waiting.push_back(item.getKey(next));
     }
@@ -149,8 +149,8 @@ void keepOnlyNavigation(const Document& document) {
     Object root = document.root();
     keepKeys(qpdf.getTrailer(), {"/Root", "/Info", "/ID", "/Encrypt", "/Size"});
     keepKeys(root, {"/Type", "/Version", "/Extensions", "/Pages", "/PageLabels", "/Names", "/Dests",
-                    "/ViewerPreferences", "/PageLayout", "/PageMode", "/Outlines", "/OpenAction", "/URI", "/Lang",
-                    "/Metadata", "/Collection", "/AF"});
+                    "/ViewerPreferences", "/PageLayout", "/PageMode", "/Outlines", "/OpenAction", "/URI",
+                    "/Lang", "/Metadata", "/Collection", "/AF"});
     if (Object outlines = root.getKey("/Outlines"); outlines.isDictionary()) cleanOutlines(outlines, places);
     if (Object names = root.getKey("/Names"); names.isDictionary())
         root.replaceKey("/Names", keptNames(qpdf, names, places));
