@@ -4,7 +4,6 @@
 #include <TambleCore/PDF/Pages/StreamStore.h>
 #include <TambleCore/PDF/Structure/Navigation.h>
 
-#include <array>
 #include <cmath>
 
 namespace tamble::pdf {
@@ -49,33 +48,26 @@ QPDFObjectHandle pictureStream(QPDF& qpdf, const StoredPicture& picture, const S
     return stream;
 }
 
-/// Draws the picture over the page's box so that it is upright once the page is turned.
-std::string placing(const PageGeometry& page) {
-    const auto& box = page.box;
-    const double width = box.urx - box.llx;
-    const double height = box.ury - box.lly;
-    std::array<double, 6> matrix{width, 0, 0, height, box.llx, box.lly};
-    if (page.rotation == 90) matrix = {0, height, -width, 0, box.urx, box.lly};
-    if (page.rotation == 180) matrix = {-width, 0, 0, -height, box.urx, box.ury};
-    if (page.rotation == 270) matrix = {0, -height, width, 0, box.llx, box.ury};
+/// Draws the picture all over the page as it is shown.
+std::string placing(const PageBox& box) {
+    const NormalizedRect everywhere{.x = 0, .y = 0, .width = 1, .height = 1};
     std::string content = "q";
-    for (const double number : matrix) content += fmt::format(" {:.5f}", number);
+    for (const double number : box.matrixFor(everywhere, box.shownWidth() / box.shownHeight()))
+        content += fmt::format(" {:.5f}", number);
     return content + " cm /Page Do Q\n";
 }
 
-void become(QPDFObjectHandle page, const QPDFObjectHandle& picture, const PageGeometry& geometry,
+void become(QPDFObjectHandle page, const QPDFObjectHandle& picture, const PageBox& box,
             const Document& document) {
     QPDF& qpdf = document.qpdf();
     keepKeys(page, {"/Type", "/Parent", "/MediaBox", "/CropBox", "/BleedBox", "/TrimBox", "/ArtBox",
                     "/Rotate", "/UserUnit", "/Dur", "/Trans", "/Annots"});
-    if (!page.getKey("/MediaBox").isRectangle())
-        page.replaceKey("/MediaBox", QPDFObjectHandle::newFromRectangle(geometry.media));
     auto pictures = QPDFObjectHandle::newDictionary();
     pictures.replaceKey("/Page", picture);
     auto resources = QPDFObjectHandle::newDictionary();
     resources.replaceKey("/XObject", pictures);
     page.replaceKey("/Resources", resources);
-    page.replaceKey("/Contents", QPDFObjectHandle::newStream(&qpdf, placing(geometry)));
+    page.replaceKey("/Contents", QPDFObjectHandle::newStream(&qpdf, placing(box)));
 }
 
 /// Inherited attributes, which the pages have by themselves now, and whatever else was left there.
@@ -118,7 +110,7 @@ void makePagesPictures(const SingleWork& work) {
     for (int page = 0; page < renderer.pageCount(); ++page) {
         const auto index = static_cast<std::size_t>(page);
         become(document.pages()[index], pictureStream(document.qpdf(), pictures[index], store),
-               renderer.geometry(page), document);
+               renderer.geometry(page).box, document);
     }
     for (const auto& page : document.pages()) cleanPageTree(page);
     save(document, work.destination, work.context, drawingShare);

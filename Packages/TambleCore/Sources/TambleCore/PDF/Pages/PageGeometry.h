@@ -1,27 +1,22 @@
 #pragma once
 
-#include <optional>
+#include <TambleCore/PDF/Structure/PageBox.h>
 
-#include <qpdf/QPDFObjectHandle.hh>
+#include <optional>
 
 namespace tamble::pdf {
 
-/// How a page is shown.
+/// How large a page is shown.
 struct PageGeometry {
-    /// The whole page, in its own coordinates.
-    QPDFObjectHandle::Rectangle media;
-    /// The part of it that is shown.
-    QPDFObjectHandle::Rectangle box;
-    /// Degrees clockwise by which it is turned to be shown: 0, 90, 180 or 270.
-    int rotation = 0;
-    /// Points (1/72 inch) per unit of the coordinates.
+    PageBox box;
+    /// Points (1/72 inch) per unit of the box.
     double unit = 1;
 
     static PageGeometry of(QPDFObjectHandle page);
 
-    /// The sides of the page as it is shown, in points.
-    double shownWidth() const;
-    double shownHeight() const;
+    /// In points.
+    double shownWidth() const { return unit * box.shownWidth(); }
+    double shownHeight() const { return unit * box.shownHeight(); }
 };
 
 /// Sides in pixels.

@@ -5,6 +5,7 @@
 #include <TambleCore/Support/Log.h>
 
 #include <fcntl.h>
+#include <qpdf/QPDFPageObjectHelper.hh>
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -31,6 +32,19 @@ FileDescriptor memoryFile() {
 std::chrono::seconds timeFor(PagePixels size) {
     const double pixels = double{1} * size.width * size.height;
     return drawingTime + std::chrono::seconds(static_cast<int>(pixels / pixelsPerSecond));
+}
+
+/// Writes down how the page's boxes were understood here.
+void settleBoxes(QPDFObjectHandle page) {
+    const PageBox box = PageBox::of(page);
+    const auto shown = QPDFObjectHandle::newFromRectangle(
+        {box.left, box.bottom, box.left + box.width, box.bottom + box.height});
+    auto medium = QPDFPageObjectHelper(page).getMediaBox();
+    // As a rectangle its corners are in order.
+    page.replaceKey("/MediaBox", medium.isRectangle()
+                                     ? QPDFObjectHandle::newFromRectangle(medium.getArrayAsRectangle())
+                                     : shown);
+    page.replaceKey("/CropBox", shown);
 }
 
 std::string decimal(double number) {
@@ -132,11 +146,7 @@ const FileDescriptor& PageRenderer::rewritten() const {
         // The library closes what it writes to.
         FILE* const stream = ::fdopen(::fcntl(file.number(), F_DUPFD_CLOEXEC, 0), "wb");
         if (stream == nullptr) throw PDFError(PDFError::Case::pageFailed, lastSystemError().message());
-        for (std::size_t page = 0; page < pages_.size(); ++page) {
-            auto boxes = document_.pages()[page];
-            boxes.replaceKey("/MediaBox", QPDFObjectHandle::newFromRectangle(pages_[page].media));
-            boxes.replaceKey("/CropBox", QPDFObjectHandle::newFromRectangle(pages_[page].box));
-        }
+        for (const auto& page : document_.pages()) settleBoxes(page);
         QPDFWriter writer(document_.qpdf());
         writer.setOutputFile("memory", stream, true);
         writer.setDecodeLevel(qpdf_dl_none);

@@ -1,6 +1,5 @@
+#include <TambleCore/PDF/Structure/Destinations.h>
 #include <TambleCore/PDF/Structure/Navigation.h>
-
-#include <qpdf/QPDFNameTreeObjectHelper.hh>
 
 namespace tamble::pdf {
 namespace {
@@ -10,14 +9,15 @@ using Object = QPDFObjectHandle;
 /// Goes through what leads to places in a document and leaves what leads to its pages, or elsewhere.
 class Places {
   public:
-    explicit Places(const Document& document) {
+    explicit Places(const Document& document) : destinations_(document) {
         for (const auto& page : document.pages()) pages_.insert(page.getObjGen());
     }
 
     /// The destination, or nothing where it would keep alive what is no page of the document.
     Object destination(Object place) const {
+        if (place.isName() || place.isString())
+            place = destinations_.place(place).value_or(Object::newNull());
         if (place.isDictionary()) place = place.getKey("/D");
-        if (place.isName() || place.isString()) return place;
         if (!place.isArray() || place.getArrayNItems() == 0) return Object::newNull();
         Object target = place.getArrayItem(0);
         if (!target.isInteger() && !pages_.contains(target.getObjGen())) return Object::newNull();
@@ -57,7 +57,17 @@ class Places {
         }
     }
 
+    /// Every name that still leads somewhere.
+    std::map<std::string, Object> named() const {
+        std::map<std::string, Object> kept;
+        for (const auto& [name, place] : destinations_.named()) {
+            if (Object found = destination(place); !found.isNull()) kept.emplace(name, found);
+        }
+        return kept;
+    }
+
   private:
+    Destinations destinations_;
     std::set<QPDFObjGen> pages_;
 };
 
@@ -74,27 +84,6 @@ void cleanOutlines(Object outlines, const Places& places) {
         places.clean(item);
         for (const char* next : {"/Next", "/First"}) waiting.push_back(item.getKey(next));
     }
-}
-
-Object keptNames(QPDF& qpdf, Object names, const Places& places) {
-    Object kept = Object::newDictionary();
-    if (names.hasKey("/EmbeddedFiles")) kept.replaceKey("/EmbeddedFiles", names.getKey("/EmbeddedFiles"));
-    if (!names.getKey("/Dests").isDictionary()) return kept;
-    auto destinations = QPDFNameTreeObjectHelper::newEmpty(qpdf);
-    for (const auto& [name, place] : QPDFNameTreeObjectHelper(names.getKey("/Dests"), qpdf)) {
-        if (Object found = places.destination(place); !found.isNull()) destinations.insert(name, found);
-    }
-    kept.replaceKey("/Dests", destinations.getObjectHandle());
-    return kept;
-}
-
-Object keptDestinations(Object stored, const Places& places) {
-    Object kept = Object::newDictionary();
-    for (const auto& name : stored.getKeys()) {
-        if (Object found = places.destination(stored.getKey(name)); !found.isNull())
-            kept.replaceKey(name, found);
-    }
-    return kept;
 }
 
 /// XMP holds title and dates, but may also show a page.
@@ -119,18 +108,15 @@ void dropThumbnails(Object root) {
 /// Leaves of a page's annotations its links, without a look of their own.
 void keepLinks(QPDF& qpdf, Object page, const Places& places) {
     Object links = Object::newArray();
-    Object annotations = page.getKey("/Annots");
-    for (int i = 0; annotations.isArray() && i < annotations.getArrayNItems(); ++i) {
-        Object annotation = annotations.getArrayItem(i);
-        if (!annotation.isDictionary() || !annotation.getKey("/Subtype").isNameAndEquals("/Link")) continue;
+    forEachLink(page, [&](Object annotation) {
         Object link = annotation.shallowCopy();
         keepKeys(link, {"/Type", "/Subtype", "/Rect", "/QuadPoints", "/F", "/H", "/Dest", "/A"});
         places.clean(link);
-        if (!link.hasKey("/Dest") && !link.hasKey("/A")) continue;
+        if (!link.hasKey("/Dest") && !link.hasKey("/A")) return;
         // A frame is part of what the page shows.
         link.replaceKey("/Border", Object::parse("[0 0 0]"));
         links.appendItem(qpdf.makeIndirectObject(link));
-    }
+    });
     Places::replace(page, "/Annots", links.getArrayNItems() > 0 ? links : Object::newNull());
 }
 
@@ -152,10 +138,8 @@ void keepOnlyNavigation(const Document& document) {
                     "/ViewerPreferences", "/PageLayout", "/PageMode", "/Outlines", "/OpenAction", "/URI",
                     "/Lang", "/Metadata", "/Collection", "/AF"});
     if (Object outlines = root.getKey("/Outlines"); outlines.isDictionary()) cleanOutlines(outlines, places);
-    if (Object names = root.getKey("/Names"); names.isDictionary())
-        root.replaceKey("/Names", keptNames(qpdf, names, places));
-    if (Object stored = root.getKey("/Dests"); stored.isDictionary())
-        root.replaceKey("/Dests", keptDestinations(stored, places));
+    keepKeys(root.getKey("/Names"), {"/EmbeddedFiles"});
+    setNamedDestinations(document, places.named());
     Object opening = root.getKey("/OpenAction");
     Places::replace(root, "/OpenAction",
                     opening.isDictionary() ? places.action(opening) : places.destination(opening));
