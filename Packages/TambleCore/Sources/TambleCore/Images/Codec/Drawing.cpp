@@ -97,7 +97,7 @@ Bytes encoded(vips::VImage image, const ImageConverter::Drawn& how, Encoding enc
         case ImageFormat::gif:
             return encodedGif(image);
         case ImageFormat::webp:
-            encoding.lossless = encoding.flat && hasFewColours(image);
+            encoding.lossless = encoding.lossless && hasFewColours(image);
             return withMetadata(encodedWebP(std::move(image), encoding, watch), how.format,
                                 {.exif = resolutionBlock(how.dotsPerInch), .xmp = {}, .iptc = {}, .icc = {}});
         case ImageFormat::heic:
@@ -118,8 +118,11 @@ Bytes encodedDrawing(const Raster& picture, const ImageConverter::Drawn& how, co
         vips::VImage image = colouredFor(watch.over(viewOf(picture)), how.format, false).image;
         const double perMillimetre = how.dotsPerInch / millimetresPerInch;
         image = image.copy(vips::VImage::option()->set("xres", perMillimetre)->set("yres", perMillimetre));
-        const Encoding encoding{
-            .factor = how.factor, .lean = picture.samples.size() > mostToOptimize, .flat = isFlat(picture)};
+        const bool flat = isFlat(picture);
+        const Encoding encoding{.factor = how.factor,
+                                .lean = picture.samples.size() > mostToOptimize,
+                                .lossless = flat,
+                                .png = flat ? PngEffort::quickFlat : PngEffort::quick};
         return encoded(std::move(image), how, encoding, watch);
     } catch (const vips::VError& error) {
         context.throwIfStopped();
