@@ -10,6 +10,11 @@ bool writesFolder(PDFTool tool) {
     return tool == PDFTool::split || tool == PDFTool::toImages;
 }
 
+/// Whose encoders may take a gibibyte for one large page alone.
+bool takesMuchMemory(ImageFormat format) {
+    return format == ImageFormat::webp || format == ImageFormat::heic || format == ImageFormat::avif;
+}
+
 /// A PDF of a kilobyte can be made to inflate to gigabytes, or to turn in circles.
 WorkNeeds boundedNeeds() {
     return {.memory = std::uint64_t{1} << 30U, .silence = std::chrono::seconds(25)};
@@ -44,6 +49,7 @@ WorkNeeds PDFProcessor::needs() const {
     WorkNeeds needs = boundedNeeds();
     needs.startsPrograms = tool_ == PDFTool::toImages ||
                            (tool_ == PDFTool::compress && settings_.compression == PDFCompression::smallest);
+    if (tool_ == PDFTool::toImages && takesMuchMemory(settings_.imageFormat)) needs.memory.reset();
     return needs;
 }
 

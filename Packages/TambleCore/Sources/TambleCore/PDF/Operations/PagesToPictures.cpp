@@ -93,7 +93,7 @@ void makePagesPictures(const SingleWork& work) {
     drawing.progress = [&](double share) { work.context.report(drawingShare * share); };
     const WorkContext encoding{.progress = {}, .stop = work.context.stop};
     drawSideBySide(
-        renderer, resolution,
+        renderer, resolution, bytesPerPixel(ImageFormat::jpeg),
         [&](int page, Raster picture) {
             dropUnusedColour(picture);
             ImageConverter::Memory file;

@@ -58,7 +58,7 @@ void toImages(const SingleWork& work) {
     // Progress is counted in pages.
     const WorkContext encoding{.progress = {}, .stop = work.context.stop};
     drawSideBySide(
-        renderer, [&](int) { return how.dotsPerInch; },
+        renderer, [&](int) { return how.dotsPerInch; }, bytesPerPixel(settings.imageFormat),
         [&](int page, Raster picture) {
             dropUnusedColour(picture);
             ImageConverter().encode(

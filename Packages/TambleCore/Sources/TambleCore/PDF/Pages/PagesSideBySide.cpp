@@ -10,8 +10,8 @@ namespace {
 
 /// Several documents may be at work at once.
 constexpr int mostLanes = 8;
-/// What the pictures of all pages that are at work may take, in bytes; a single one may take more.
-constexpr double mostAtOnce = 256e6;
+/// What all pages that are at work may take, in bytes; a single one may take more.
+constexpr double mostAtOnce = 512e6;
 /// Pages that one run of the drawing program draws at most; starting it takes as long as drawing a page or
 /// two.
 constexpr int mostPagesPerRun = 16;
@@ -112,12 +112,13 @@ class Lanes {
     std::exception_ptr failure_;
 };
 
-int laneCount(const PageRenderer& renderer, const PageRenderer::Resolution& resolution) {
+int laneCount(const PageRenderer& renderer, const PageRenderer::Resolution& resolution,
+              double bytesPerPixel) {
     double largest = 1;
     for (int page = 0; page < renderer.pageCount(); ++page) {
         const auto size = pixelsOf(renderer.geometry(page), resolution(page));
         if (!size) throw PDFError(PDFError::Case::pageTooLarge);
-        largest = std::max(largest, 3.0 * size->width * size->height);
+        largest = std::max(largest, bytesPerPixel * size->width * size->height);
     }
     const int cores = static_cast<int>(std::thread::hardware_concurrency());
     const int fitting = static_cast<int>(std::min<double>(mostLanes, mostAtOnce / largest));
@@ -127,8 +128,27 @@ int laneCount(const PageRenderer& renderer, const PageRenderer::Resolution& reso
 }  // namespace
 
 void drawSideBySide(const PageRenderer& renderer, const PageRenderer::Resolution& resolution,
-                    const PageRenderer::Taker& take, const WorkContext& context) {
-    Lanes(renderer, resolution, take, context).run(laneCount(renderer, resolution));
+                    double bytesPerPixel, const PageRenderer::Taker& take, const WorkContext& context) {
+    Lanes(renderer, resolution, take, context).run(laneCount(renderer, resolution, bytesPerPixel));
+}
+
+double bytesPerPixel(ImageFormat format) {
+    switch (format) {
+        case ImageFormat::webp:
+            return 24;
+        case ImageFormat::heic:
+            return 30;
+        case ImageFormat::avif:
+            return 40;
+        case ImageFormat::gif:
+            return 14;
+        case ImageFormat::jpeg:
+            return 12;
+        case ImageFormat::png:
+        case ImageFormat::tiff:
+            break;
+    }
+    return 9;
 }
 
 }  // namespace tamble::pdf
