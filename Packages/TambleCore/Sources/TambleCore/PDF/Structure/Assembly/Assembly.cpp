@@ -86,7 +86,7 @@ void Assembly::writeTo(const std::filesystem::path& destination, const WorkConte
         PartQueue queue(parts_, context.stop);
         for (std::size_t i = 0; i < parts_.size(); ++i) {
             queue.next().writeTo(writer);
-            parts_[i].reset();
+            queue.discard(std::move(parts_[i]));
             context.report(from +
                            (1 - from) * static_cast<double>(i + 1) / static_cast<double>(parts_.size()));
         }

@@ -15,7 +15,10 @@ std::size_t threadCount(std::size_t parts) {
 }  // namespace
 
 PartQueue::PartQueue(const std::vector<std::unique_ptr<AssemblyPart>>& parts, std::stop_token stop)
-    : parts_(parts), stop_(std::move(stop)), results_(parts.size()) {
+    : parts_(parts),
+      stop_(std::move(stop)),
+      results_(parts.size()),
+      ahead_(2 * threadCount(parts.size()) + 2) {
     for (std::size_t i = threadCount(parts.size()); i > 0; --i)
         threads_.emplace_back([this](const std::stop_token& end) { work(end); });
 }
@@ -35,25 +38,40 @@ CarriedObjects PartQueue::next() {
     return *std::exchange(result.objects, std::nullopt);
 }
 
+void PartQueue::discard(std::unique_ptr<AssemblyPart> part) {
+    const std::scoped_lock lock(mutex_);
+    discarded_.push_back(std::move(part));
+    changed_.notify_all();
+}
+
 void PartQueue::work(const std::stop_token& end) {
     std::unique_lock lock(mutex_);
-    for (;;) {
-        const auto mayBegin = [this] {
-            return begun_ == parts_.size() || begun_ < taken_ + 2 * threads_.size() + 2;
-        };
-        if (!changed_.wait(lock, end, mayBegin) || begun_ == parts_.size()) return;
-        const std::size_t index = begun_++;
-        lock.unlock();
-        Result result;
-        try {
-            result.objects = parts_[index]->objects(stop_);
-        } catch (...) {
-            result.failure = std::current_exception();
+    const auto mayBegin = [this] { return begun_ < parts_.size() && begun_ < taken_ + ahead_; };
+    while (changed_.wait(lock, end, [&] { return mayBegin() || !discarded_.empty(); })) {
+        if (mayBegin()) {
+            collectNext(lock);
+        } else {
+            auto part = std::move(discarded_.back());
+            discarded_.pop_back();
+            lock.unlock();
+            part.reset();
+            lock.lock();
         }
-        lock.lock();
-        results_[index] = std::move(result);
-        changed_.notify_all();
     }
+}
+
+void PartQueue::collectNext(std::unique_lock<std::mutex>& lock) {
+    const std::size_t index = begun_++;
+    lock.unlock();
+    Result result;
+    try {
+        result.objects = parts_[index]->objects(stop_);
+    } catch (...) {
+        result.failure = std::current_exception();
+    }
+    lock.lock();
+    results_[index] = std::move(result);
+    changed_.notify_all();
 }
 
 }  // namespace tamble::pdf
