@@ -8,6 +8,8 @@ file(GLOB_RECURSE pdf_sources CONFIGURE_DEPENDS
     Sources/TambleCore/PDF/Pages/*.cpp
     Sources/TambleCore/PDF/Photos/*.cpp
     Sources/TambleCore/PDF/Pictures/*.cpp)
+# JPEGs fail in the same way wherever they are coded.
+list(APPEND pdf_sources Sources/TambleCore/Images/Codec/Jpeg/JpegFailure.cpp)
 add_library(TamblePDF SHARED ${pdf_sources})
 # Without the smart pointer that qpdf used before the standard had one.
 target_compile_definitions(TamblePDF PUBLIC POINTERHOLDER_TRANSITION=4)

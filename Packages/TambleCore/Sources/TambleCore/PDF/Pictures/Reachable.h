@@ -1,0 +1,18 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include <qpdf/QPDF.hh>
+
+namespace tamble::pdf {
+
+/// All objects with numbers that can be reached from the trailer, which are those that are saved.
+std::vector<QPDFObjectHandle> reachableObjects(QPDF& document);
+
+/// Calls `take` for the references in an object, however deep in its own dictionaries and arrays. It answers
+/// what shall stand there instead, or the object itself.
+void forEachReference(const QPDFObjectHandle& object,
+                      const std::function<QPDFObjectHandle(const QPDFObjectHandle&)>& take);
+
+}  // namespace tamble::pdf
