@@ -124,8 +124,7 @@ class ResourceSearch {
             if (object.isDictionary()) {
                 if (object.isDictionaryOfType("/Font") && !object.getKey("/CharProcs").isDictionary())
                     continue;
-                for (const auto& [key, value] : object.getDictAsMap())
-                    if (key != "/Parent" && key != "/P") add(value);
+                for (const auto& [key, value] : object.getDictAsMap()) add(value);
             } else if (object.isArray()) {
                 for (const auto& value : object.getArrayAsVector()) add(value);
             }
