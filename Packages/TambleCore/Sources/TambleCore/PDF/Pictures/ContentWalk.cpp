@@ -9,7 +9,7 @@ namespace tamble::pdf {
 namespace {
 
 /// Of all content of a document, and of one stream: thousands of pages of dense maps.
-constexpr std::size_t mostBytes = std::size_t{192} << 20U;
+constexpr std::size_t mostBytes = std::size_t{96} << 20U;
 constexpr std::size_t mostBytesOfStream = std::size_t{48} << 20U;
 constexpr std::size_t mostDraws = 1'000'000;
 constexpr std::size_t deepestNesting = 50;

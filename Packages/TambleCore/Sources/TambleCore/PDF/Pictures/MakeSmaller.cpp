@@ -49,8 +49,11 @@ class Smaller {
     void run() {
         mergeDuplicates(document_.qpdf(), context_);
         for (auto& object : reachableObjects(document_.qpdf())) {
+            if (!object.isStream()) continue;
+            // The writer would inflate streams that were deflated twice, however much they hold.
+            if (object.getDict().hasKey("/Filter")) object.setFilterOnWrite(false);
             // What lies in another file is not this document's.
-            if (object.isStream() && !object.getDict().hasKey("/F")) streams_.push_back(object);
+            if (!object.getDict().hasKey("/F")) streams_.push_back(object);
         }
         findPictures();
         constexpr double shareOfReading = 0.05;
