@@ -16,4 +16,8 @@ std::optional<Bytes> inflated(ByteView stream, std::size_t limit);
 /// so much that it has to be asked in between. Throws Cancelled.
 Bytes deflated(ByteView data, const std::stop_token& stop);
 
+/// About the size that `data` deflates to, for comparing: quickly told, from its first part where there is
+/// much.
+std::size_t roughlyDeflatedSize(ByteView data);
+
 }  // namespace tamble::pdf

@@ -26,6 +26,8 @@ class JpegRows {
     PictureShape shape() const;
     JpegColours colours() const;
     int channels() const;
+    /// Bytes that are held before the first row comes.
+    std::size_t heldBytes() const;
 
     /// Shrinks while decoding to the smallest shape of whole eighths that holds `target`; false when damaged.
     bool start(PictureShape target);

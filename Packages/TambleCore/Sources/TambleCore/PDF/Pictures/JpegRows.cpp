@@ -4,8 +4,7 @@
 namespace tamble::pdf {
 namespace {
 
-/// The samples of a progressive picture are all held until it is read, in 16 bits.
-constexpr double mostProgressivePixels = 64e6;
+constexpr double mostHeld = 200e6;
 constexpr double mostPixels = 1e9;
 /// Encoders write about ten; more only cost time.
 constexpr int mostScans = 100;
@@ -50,11 +49,17 @@ struct JpegRows::State {
         return jpeg_read_scanlines(&codec, &row, 1) == 1;
     }
 
-    bool isKnown() const {
+    /// All samples of a picture that comes in several scans are held until the last, in 16 bits.
+    double heldBytes() {
+        if (!jpeg_has_multiple_scans(&codec)) return 0;
+        return 2.0 * codec.image_width * codec.image_height * codec.num_components;
+    }
+
+    bool isKnown() {
         const int channels = codec.num_components;
         const double pixels = static_cast<double>(codec.image_width) * codec.image_height;
         if (codec.data_precision != 8 || pixels > mostPixels) return false;
-        if (codec.progressive_mode != FALSE && pixels > mostProgressivePixels) return false;
+        if (heldBytes() > mostHeld) return false;
         switch (codec.jpeg_color_space) {
             case JCS_GRAYSCALE:
                 return channels == 1;
@@ -101,6 +106,10 @@ JpegColours JpegRows::colours() const {
 
 int JpegRows::channels() const {
     return state_->codec.num_components;
+}
+
+std::size_t JpegRows::heldBytes() const {
+    return static_cast<std::size_t>(state_->heldBytes());
 }
 
 bool JpegRows::start(PictureShape target) {

@@ -13,11 +13,6 @@ namespace {
 /// Streams that hold more, or this many times their own size, stay as they are.
 constexpr std::size_t mostInflated = std::size_t{32} << 20U;
 constexpr std::size_t mostInflation = 200;
-/// What coding a picture takes besides its data, beyond what its target's pixels take: for each of these
-/// JPEG's samples in 16 bits, and rows.
-constexpr std::size_t bytesPerPixel = 8;
-constexpr std::size_t bytesOfWork = std::size_t{4} << 20U;
-
 bool isPicture(QPDFObjectHandle stream) {
     return stream.getDict().getKey("/Subtype").isNameAndEquals("/Image");
 }
@@ -56,20 +51,28 @@ class Smaller {
             if (!object.getDict().hasKey("/F")) streams_.push_back(object);
         }
         findPictures();
-        constexpr double shareOfReading = 0.05;
-        context_.report(until_ * shareOfReading);
+        settle(0);
+        for (auto& stream : streams_) total_ += lengthOf(stream);
         for (auto& stream : streams_) {
-            if (pictures_.contains(stream.getObjectID()))
-                addPicture(stream);
-            else
-                addOther(stream);
-            const double done = static_cast<double>(++done_) / static_cast<double>(streams_.size());
-            context_.report(until_ * (shareOfReading + (1 - shareOfReading) * done));
+            const bool isPicture = pictures_.contains(stream.getObjectID());
+            if (!(isPicture && addPicture(stream)) && !addOther(stream)) settle(lengthOf(stream));
         }
         crew_.finish();
     }
 
   private:
+    static std::size_t lengthOf(QPDFObjectHandle stream) {
+        auto length = stream.getDict().getKey("/Length");
+        return length.isInteger() ? static_cast<std::size_t>(std::max(0LL, length.getIntValue())) : 0;
+    }
+
+    void settle(std::size_t bytes) {
+        done_ += bytes;
+        constexpr double shareOfReading = 0.05;
+        const double share = total_ == 0 ? 0 : static_cast<double>(done_) / static_cast<double>(total_);
+        context_.report(until_ * (shareOfReading + (1 - shareOfReading) * std::min(1.0, share)));
+    }
+
     void findPictures() {
         for (auto& stream : streams_) {
             if (isPicture(stream) && shapeOf(stream)) pictures_.insert(stream.getObjectID());
@@ -87,55 +90,58 @@ class Smaller {
         }
     }
 
-    void addPicture(QPDFObjectHandle stream) {
+    /// Whether there is anything to do, as below.
+    bool addPicture(QPDFObjectHandle stream) {
         const int number = stream.getObjectID();
+        const std::size_t length = lengthOf(stream);
         auto picture = readPicture(stream, drawn_.size(number), masks_.contains(number), context_);
-        if (!picture) return addOther(stream);
-        const std::size_t memory = picture->data->getSize() + bytesOfWork +
-                                   static_cast<std::size_t>(picture->target.width) *
-                                       static_cast<std::size_t>(picture->target.height) * bytesPerPixel;
-        crew_.add(memory, [this, stream, picture = std::move(*picture)](const std::stop_token& stop) {
+        if (!picture) return false;
+        const std::size_t memory = memoryFor(*picture);
+        crew_.add(memory, [=, this, picture = std::move(*picture)](const std::stop_token& stop) {
             auto result = std::make_shared<std::optional<SmallerPicture>>(smallerPicture(picture, stop));
-            return [this, stream, result] {
+            return [=, this] {
                 if (*result) replacePicture(stream, **result);
+                settle(length);
             };
         });
+        return true;
     }
 
     /// Everything else is only coded better.
-    void addOther(QPDFObjectHandle stream) {
+    bool addOther(QPDFObjectHandle stream) {
         // Other programs look for it by its text.
-        if (stream.getDict().isDictionaryOfType("/Metadata")) return;
+        if (stream.getDict().isDictionaryOfType("/Metadata")) return false;
         const auto filters = filtersOf(stream);
-        if (!filters || (!filters->empty() && filters->back().name == "/DCTDecode")) return;
+        if (!filters || (!filters->empty() && filters->back().name == "/DCTDecode")) return false;
         const auto coded = codedData(stream);
-        if (coded == nullptr || coded->getSize() == 0) return;
+        if (coded == nullptr || coded->getSize() == 0) return false;
         const std::size_t size = coded->getSize();
         const std::size_t limit = std::min(mostInflated, size * mostInflation);
         if (filters->size() == 1 && filters->front().name == "/FlateDecode") {
-            const auto parameters = filters->front().parameters;
-            addWork(stream, parameters, size, [coded, limit] {
+            addWork(stream, filters->front().parameters, size, limit, [coded, limit] {
                 return inflated({coded->getBuffer(), coded->getSize()}, limit);
             });
-            return;
+            return true;
         }
         auto data = decodedData(stream, limit, context_);
-        if (data)
-            addWork(stream, QPDFObjectHandle::newNull(), size,
-                    [data = std::move(*data)] { return std::optional(data); });
+        if (!data) return false;
+        const std::size_t memory = data->size();
+        addWork(stream, QPDFObjectHandle::newNull(), size, memory,
+                [data = std::move(*data)] { return std::optional(data); });
+        return true;
     }
 
+    /// `data` answers what the stream of `size` bytes holds, which takes so much memory.
     template <typename Data>
     void addWork(const QPDFObjectHandle& stream, const QPDFObjectHandle& parameters, std::size_t size,
-                 Data data) {
-        // Most streams hold some five times their size.
-        constexpr std::size_t usualInflation = 12;
-        crew_.add(size * usualInflation, [=, this, data = std::move(data)](const std::stop_token& stop) {
+                 std::size_t memory, Data data) {
+        crew_.add(2 * memory, [=, this, data = std::move(data)](const std::stop_token& stop) {
             const auto held = data();
             auto result = std::make_shared<Bytes>(held ? deflated(*held, stop) : Bytes());
             return [=, this] {
                 if (!result->empty() && result->size() < size)
                     replaceData(stream, *result, "/FlateDecode", parameters);
+                settle(size);
             };
         });
     }
@@ -167,6 +173,8 @@ class Smaller {
     std::unordered_set<int> pictures_;
     std::unordered_set<int> masks_;
     DrawnPictures drawn_;
+    /// Bytes of streams.
+    std::size_t total_ = 0;
     std::size_t done_ = 0;
     /// The last member: its work uses the others.
     WorkCrew crew_;

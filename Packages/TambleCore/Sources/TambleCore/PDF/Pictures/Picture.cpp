@@ -115,22 +115,24 @@ class SampledPicture {
         const auto& layout = picture_.layout;
         const std::size_t bytes = layout.rowBytes() * static_cast<std::size_t>(layout.shape.height);
         if (bytes > mostInflated) return std::nullopt;
-        SmallerPicture best{.predictor = picture_.predictor, .layout = layout};
-        if (picture_.coding == Picture::Coding::bare) {
-            best.data = deflated(picture_.bytes(), stop_);
-        } else {
+        std::optional<Bytes> held;
+        if (picture_.coding == Picture::Coding::deflated) {
             // With its predictor's bytes, a further one in each row.
-            const auto held = inflated(picture_.bytes(), mostInflated + bytes);
+            held = inflated(picture_.bytes(), mostInflated + bytes);
             if (!held) return std::nullopt;
-            best.data = deflated(*held, stop_);
         }
+        const ByteView samples = held ? ByteView(*held) : picture_.bytes();
+        SmallerPicture result{.predictor = picture_.predictor, .layout = layout};
         if (picture_.predictor != Predictor::png && picture_.palette.empty() && layout.bits >= 8) {
-            if (auto data = filtered(bytes); data && data->size() < best.data.size()) {
-                best.data = std::move(*data);
-                best.predictor = Predictor::png;
+            const auto data = filtered(bytes);
+            if (data && roughlyDeflatedSize(*data) < roughlyDeflatedSize(samples)) {
+                result.data = deflated(*data, stop_);
+                result.predictor = Predictor::png;
+                return result;
             }
         }
-        return best;
+        result.data = deflated(samples, stop_);
+        return result;
     }
 
   private:
@@ -171,6 +173,7 @@ class SampledPicture {
         return true;
     }
 
+    /// The samples, filtered as in PNG.
     std::optional<Bytes> filtered(std::size_t bytes) const {
         const auto& layout = picture_.layout;
         PngFilter filter(layout.rowBytes(), static_cast<std::size_t>(layout.channels * layout.bits / 8));
@@ -183,7 +186,7 @@ class SampledPicture {
             if (row.empty()) return std::nullopt;
             filter.put(row, data);
         }
-        return deflated(data, stop_);
+        return data;
     }
 
     const Picture& picture_;
@@ -209,6 +212,22 @@ std::optional<SmallerPicture> smallerSamples(const Picture& picture, const std::
 }
 
 }  // namespace
+
+std::size_t memoryFor(const Picture& picture) {
+    constexpr std::size_t rows = std::size_t{4} << 20U;
+    // JPEG's writer holds all samples of the target in 16 bits, with halved colours, and what it writes.
+    constexpr double bytesPerPixel = 8;
+    std::size_t memory = picture.data->getSize() + rows;
+    if (picture.mayChange) memory += static_cast<std::size_t>(pixels(picture.target) * bytesPerPixel);
+    if (picture.coding == Picture::Coding::jpeg) {
+        const auto reader = JpegRows::open(picture.bytes(), {});
+        return memory + (reader ? reader->heldBytes() : 0);
+    }
+    // The samples, those filtered, and both deflated.
+    const std::size_t samples =
+        picture.layout.rowBytes() * static_cast<std::size_t>(picture.layout.shape.height);
+    return memory + (samples <= mostInflated ? 3 * samples : 0);
+}
 
 std::optional<SmallerPicture> smallerPicture(const Picture& picture, const std::stop_token& stop) {
     throwIfStopped(stop);

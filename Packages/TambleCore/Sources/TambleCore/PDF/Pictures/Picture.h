@@ -42,6 +42,9 @@ struct SmallerPicture {
     bool hasPaletteColours = false;
 };
 
+/// Bytes of memory that coding it anew takes at most.
+std::size_t memoryFor(const Picture& picture);
+
 /// Codes the picture anew for a screen: photographs as JPEG of the target's shape, drawings as they are.
 /// Empty when that isn't smaller, or its data is damaged. Throws Cancelled.
 std::optional<SmallerPicture> smallerPicture(const Picture& picture, const std::stop_token& stop);
