@@ -1,4 +1,5 @@
 #include <TambleCore/PDF/Pictures/Flate.h>
+#include <TambleCore/PDF/Structure/Deflate.h>
 #include <TambleCore/Support/WorkContext.h>
 
 #include <algorithm>
@@ -29,10 +30,9 @@ struct FreeDecompressor {
     }
 };
 
-template <int compressionLevel>
 libdeflate_compressor* threadsCompressor() {
     thread_local const std::unique_ptr<libdeflate_compressor, FreeCompressor> compressor(
-        libdeflate_alloc_compressor(compressionLevel));
+        libdeflate_alloc_compressor(level));
     if (compressor == nullptr) throw std::bad_alloc();
     return compressor.get();
 }
@@ -92,7 +92,7 @@ std::optional<Bytes> inflated(ByteView stream, std::size_t limit) {
 Bytes deflated(ByteView data, const std::stop_token& stop) {
     if (stop.stop_requested()) throw Cancelled();
     if (data.size() <= mostAtOnce) {
-        auto* const compressor = threadsCompressor<level>();
+        auto* const compressor = threadsCompressor();
         Bytes result(libdeflate_zlib_compress_bound(compressor, data.size()));
         result.resize(
             libdeflate_zlib_compress(compressor, data.data(), data.size(), result.data(), result.size()));
@@ -112,9 +112,7 @@ Bytes deflated(ByteView data, const std::stop_token& stop) {
 
 std::size_t roughlyDeflatedSize(ByteView data) {
     data = data.first(std::min(data.size(), mostForRoughSize));
-    auto* const compressor = threadsCompressor<1>();
-    Bytes result(libdeflate_zlib_compress_bound(compressor, data.size()));
-    return libdeflate_zlib_compress(compressor, data.data(), data.size(), result.data(), result.size());
+    return deflated({reinterpret_cast<const char*>(data.data()), data.size()}, 1).size();
 }
 
 }  // namespace tamble::pdf
