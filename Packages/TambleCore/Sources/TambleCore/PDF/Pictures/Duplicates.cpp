@@ -82,6 +82,8 @@ class Round {
         return true;
     }
 
+    const std::vector<QPDFObjectHandle>& objects() const { return objects_; }
+
   private:
     void mergeStreams(const std::vector<QPDFObjectHandle>& streams) {
         std::unordered_map<std::size_t, QPDFObjectHandle> firsts;
@@ -107,10 +109,12 @@ class Round {
 
 }  // namespace
 
-void mergeDuplicates(QPDF& document, const WorkContext& context) {
+std::vector<QPDFObjectHandle> mergeDuplicates(QPDF& document, const WorkContext& context) {
     for (int round = 0; round < mostRounds; ++round) {
-        if (!Round(document, context).merge()) break;
+        Round merging(document, context);
+        if (!merging.merge()) return merging.objects();
     }
+    return reachableObjects(document);
 }
 
 }  // namespace tamble::pdf

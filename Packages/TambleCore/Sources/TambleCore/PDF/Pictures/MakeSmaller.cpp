@@ -2,10 +2,11 @@
 #include <TambleCore/PDF/Pictures/Flate.h>
 #include <TambleCore/PDF/Pictures/MakeSmaller.h>
 #include <TambleCore/PDF/Pictures/PictureReading.h>
-#include <TambleCore/PDF/Pictures/Reachable.h>
 #include <TambleCore/PDF/Pictures/ScratchFile.h>
 #include <TambleCore/PDF/Pictures/StreamData.h>
 #include <TambleCore/PDF/Pictures/WorkCrew.h>
+
+#include <algorithm>
 
 namespace tamble::pdf {
 namespace {
@@ -42,8 +43,7 @@ class Smaller {
           crew_(context) {}
 
     void run() {
-        mergeDuplicates(document_.qpdf(), context_);
-        for (auto& object : reachableObjects(document_.qpdf())) {
+        for (auto& object : mergeDuplicates(document_.qpdf(), context_)) {
             if (!object.isStream()) continue;
             // The writer would inflate streams that were deflated twice, however much they hold.
             if (object.getDict().hasKey("/Filter")) object.setFilterOnWrite(false);
