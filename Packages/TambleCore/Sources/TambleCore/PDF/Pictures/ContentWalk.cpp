@@ -12,6 +12,7 @@ namespace {
 constexpr std::size_t mostBytes = std::size_t{96} << 20U;
 constexpr std::size_t mostBytesOfStream = std::size_t{48} << 20U;
 constexpr std::size_t mostDraws = 1'000'000;
+constexpr std::size_t drawsPerReading = 100;
 constexpr std::size_t deepestNesting = 50;
 constexpr std::size_t deepestState = 100'000;
 /// The tokens between two looks at the stop token.
@@ -107,6 +108,21 @@ class Placement final : public QPDFObjectHandle::TokenFilter {
     PictureDraws draws_;
 };
 
+/// Marks a form as being read.
+class Opened {
+  public:
+    Opened(std::unordered_set<int>& open, int number) : open_(open), number_(number) {
+        open_.insert(number_);
+    }
+    ~Opened() { open_.erase(number_); }
+    Opened(const Opened&) = delete;
+    Opened& operator=(const Opened&) = delete;
+
+  private:
+    std::unordered_set<int>& open_;
+    int number_;
+};
+
 /// Looks through all that resources refer to, but not through fonts whose glyphs are no content.
 class ResourceSearch {
   public:
@@ -159,12 +175,6 @@ void ContentWalk::readInto(QPDFObjectHandle content, Bytes& text) {
     text.push_back('\n');
 }
 
-PictureDraws ContentWalk::drawsOfPage(QPDFObjectHandle content, QPDFObjectHandle resources) {
-    // Reading of the last page may have ended anywhere.
-    open_.clear();
-    return draws(std::move(content), std::move(resources));
-}
-
 PictureDraws ContentWalk::draws(QPDFObjectHandle content, QPDFObjectHandle resources) {
     if (picturesIn(resources).empty()) return {};
     Bytes text;
@@ -188,17 +198,19 @@ PictureDraws ContentWalk::draws(QPDFObjectHandle content, QPDFObjectHandle resou
 const PictureDraws& ContentWalk::drawsOfForm(QPDFObjectHandle form, QPDFObjectHandle outer) {
     static const PictureDraws none;
     const int number = form.getObjectID();
-    if (const auto known = forms_.find(number); known != forms_.end()) return known->second;
+    auto resources = form.getDict().getKey("/Resources");
+    const bool hasOwn = resources.isDictionary();
+    // One that has no resources of its own can draw something else each time, and has to be read again.
+    if (!hasOwn) spend(drawsPerReading);
+    if (const auto known = forms_.find(number); hasOwn && known != forms_.end()) return known->second;
     // A form that draws itself, which no reader does.
     if (open_.contains(number)) return none;
     if (open_.size() == deepestNesting) throw UnreadableContent();
-    open_.insert(number);
-    auto resources = form.getDict().getKey("/Resources");
+    const Opened opened(open_, number);
     const QPDFMatrix matrix = matrixOf(form);
-    PictureDraws inner = draws(form, resources.isDictionary() ? resources : outer);
+    PictureDraws inner = draws(form, hasOwn ? resources : outer);
     for (auto& drawn : inner) drawn.matrix = product(drawn.matrix, matrix);
-    open_.erase(number);
-    return forms_.emplace(number, std::move(inner)).first->second;
+    return forms_.insert_or_assign(number, std::move(inner)).first->second;
 }
 
 std::vector<int> ContentWalk::picturesIn(QPDFObjectHandle resources) const {

@@ -25,9 +25,9 @@ class ContentWalk {
     ContentWalk(const std::unordered_set<int>& pictures, const WorkContext& context)
         : pictures_(pictures), context_(context) {}
 
-    /// What `content`, a stream or an array of streams, draws in the page's own space. Throws
+    /// What `content`, a stream or an array of streams, draws in its own space. Throws
     /// UnreadableContent; Cancelled.
-    PictureDraws drawsOfPage(QPDFObjectHandle content, QPDFObjectHandle resources);
+    PictureDraws draws(QPDFObjectHandle content, QPDFObjectHandle resources);
     /// What a form or the cell of a pattern draws in the space in which it is placed. `outer` are the
     /// resources of a form that has none of its own.
     const PictureDraws& drawsOfForm(QPDFObjectHandle form, QPDFObjectHandle outer);
@@ -44,7 +44,6 @@ class ContentWalk {
     void spend(std::size_t draws);
 
   private:
-    PictureDraws draws(QPDFObjectHandle content, QPDFObjectHandle resources);
     void readInto(QPDFObjectHandle content, Bytes& text);
 
     const std::unordered_set<int>& pictures_;

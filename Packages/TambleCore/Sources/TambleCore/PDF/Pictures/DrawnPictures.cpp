@@ -55,7 +55,7 @@ class PageReader {
         inchesPerUnit_ = (unit.isNumber() ? unit.getNumericValue() : 1) / pointsPerInch;
         auto resources = inherited(helper, "/Resources");
         guarded(resources,
-                [&] { take(walk_.drawsOfPage(QPDFObjectHandle(page).getKey("/Contents"), resources), {}); });
+                [&] { take(walk_.draws(QPDFObjectHandle(page).getKey("/Contents"), resources), {}); });
         pin(walk_.picturesOfGlyphs(resources));
         auto annotations = QPDFObjectHandle(page).getKey("/Annots");
         if (!annotations.isArray()) return;
@@ -97,10 +97,10 @@ class PageReader {
             matrix.concat(each.matrix);
             const DrawnSize size{std::hypot(matrix.a, matrix.b) * inchesPerUnit_,
                                  std::hypot(matrix.c, matrix.d) * inchesPerUnit_};
-            if (std::isfinite(size.width) && std::isfinite(size.height))
-                drawn_.draw(each.picture, size);
-            else
+            if (!std::isfinite(size.width) || !std::isfinite(size.height))
                 drawn_.pin(each.picture);
+            else if (size.width > 0 && size.height > 0)
+                drawn_.draw(each.picture, size);
         }
     }
     void pin(const std::vector<int>& pictures) {

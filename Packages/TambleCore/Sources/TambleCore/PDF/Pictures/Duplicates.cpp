@@ -55,7 +55,7 @@ std::string textOf(QPDFObjectHandle stream) {
 class Round {
   public:
     Round(QPDF& document, const WorkContext& context)
-        : objects_(reachableObjects(document)), document_(document), context_(context) {}
+        : objects_(reachableObjects(document, context)), document_(document), context_(context) {}
 
     /// Whether anything was merged.
     bool merge() {
@@ -78,7 +78,10 @@ class Round {
             return found == merged_.end() ? object : found->second;
         };
         forEachReference(document_.getTrailer(), instead);
-        for (const auto& object : objects_) forEachReference(object, instead);
+        for (const auto& object : objects_) {
+            context_.throwIfStopped();
+            forEachReference(object, instead);
+        }
         return true;
     }
 
@@ -114,7 +117,7 @@ std::vector<QPDFObjectHandle> mergeDuplicates(QPDF& document, const WorkContext&
         Round merging(document, context);
         if (!merging.merge()) return merging.objects();
     }
-    return reachableObjects(document);
+    return reachableObjects(document, context);
 }
 
 }  // namespace tamble::pdf

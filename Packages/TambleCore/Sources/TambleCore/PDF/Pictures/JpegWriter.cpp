@@ -92,7 +92,12 @@ void JpegWriter::put(ByteView row) {
 }
 
 std::optional<Bytes> JpegWriter::finish() {
-    if (state_->failed || !state_->finish()) return std::nullopt;
+    if (state_->failed) return std::nullopt;
+    if (!state_->finish()) {
+        // It may have been moved elsewhere, which only a finished writer tells.
+        state_->buffer = nullptr;
+        return std::nullopt;
+    }
     return Bytes(state_->buffer, state_->buffer + state_->size);
 }
 

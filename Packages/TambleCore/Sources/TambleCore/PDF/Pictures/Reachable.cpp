@@ -36,7 +36,7 @@ void forEachReference(const QPDFObjectHandle& object,
     }
 }
 
-std::vector<QPDFObjectHandle> reachableObjects(QPDF& document) {
+std::vector<QPDFObjectHandle> reachableObjects(QPDF& document, const WorkContext& context) {
     std::vector<QPDFObjectHandle> reached;
     std::unordered_set<int> seen;
     const auto take = [&](const QPDFObjectHandle& object) {
@@ -45,6 +45,7 @@ std::vector<QPDFObjectHandle> reachableObjects(QPDF& document) {
     };
     forEachReference(document.getTrailer(), take);
     for (std::size_t next = 0; next < reached.size(); ++next) {
+        context.throwIfStopped();
         // `reached` grows.
         const QPDFObjectHandle object = reached[next];
         forEachReference(object, take);

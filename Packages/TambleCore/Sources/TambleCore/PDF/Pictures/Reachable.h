@@ -1,5 +1,7 @@
 #pragma once
 
+#include <TambleCore/Support/WorkContext.h>
+
 #include <functional>
 #include <vector>
 
@@ -7,8 +9,9 @@
 
 namespace tamble::pdf {
 
-/// All objects with numbers that can be reached from the trailer, which are those that are saved.
-std::vector<QPDFObjectHandle> reachableObjects(QPDF& document);
+/// All objects with numbers that can be reached from the trailer, which are those that are saved. Throws
+/// Cancelled.
+std::vector<QPDFObjectHandle> reachableObjects(QPDF& document, const WorkContext& context);
 
 /// Calls `take` for the references in an object, however deep in its own dictionaries and arrays. It answers
 /// what shall stand there instead, or the object itself.

@@ -30,7 +30,8 @@ void WorkCrew::run(const std::stop_token& stop) {
         Piece piece;
         {
             std::unique_lock lock(mutex_);
-            if (!hasWork_.wait(lock, stop, [this] { return !waiting_.empty(); })) return;
+            hasWork_.wait(lock, stop, [this] { return !waiting_.empty(); });
+            if (stop.stop_requested()) return;
             piece = std::move(waiting_.front());
             waiting_.pop_front();
         }
