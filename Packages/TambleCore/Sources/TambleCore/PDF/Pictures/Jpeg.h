@@ -34,6 +34,8 @@ class JpegRows {
     PictureShape decodedShape() const;
     /// The next row; false at the first sign of damage. Throws Cancelled.
     bool read(std::span<std::uint8_t> row);
+    /// After the last row: whether the file ends there as it should.
+    bool finish();
 
   private:
     struct State;

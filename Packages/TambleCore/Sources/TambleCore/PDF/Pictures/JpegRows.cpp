@@ -17,6 +17,11 @@ void leaveWhenStopped(jpeg_common_struct* codec) {
     if (failure.stopped || reader.input_scan_number > mostScans) std::longjmp(failure.jump, 1);
 }
 
+/// Whatever is odd about a picture, it may not look the same after decoding it in another size.
+void leaveWhenWarned(jpeg_common_struct* codec, int level) {
+    if (level < 0) std::longjmp(static_cast<JpegFailure*>(codec->client_data)->jump, 1);
+}
+
 }  // namespace
 
 struct JpegRows::State {
@@ -24,7 +29,9 @@ struct JpegRows::State {
     jpeg_progress_mgr progress{};
     JpegFailure failure;
 
-    explicit State(const std::stop_token& stop) : failure(stop) {}
+    explicit State(const std::stop_token& stop) : failure(stop) {
+        failure.manager.emit_message = leaveWhenWarned;
+    }
     ~State() { jpeg_destroy_decompress(&codec); }
     State(const State&) = delete;
     State& operator=(const State&) = delete;
@@ -47,6 +54,11 @@ struct JpegRows::State {
     bool read(JSAMPROW row) {
         if (setjmp(failure.jump) != 0) return false;
         return jpeg_read_scanlines(&codec, &row, 1) == 1;
+    }
+
+    bool finish() {
+        if (setjmp(failure.jump) != 0) return false;
+        return jpeg_finish_decompress(&codec) != FALSE;
     }
 
     /// All samples of a picture that comes in several scans are held until the last, in 16 bits.
@@ -139,6 +151,10 @@ bool JpegRows::read(std::span<std::uint8_t> row) {
     const bool done = state_->read(row.data());
     if (state_->failure.stopped || state_->failure.stop.stop_requested()) throw Cancelled();
     return done;
+}
+
+bool JpegRows::finish() {
+    return state_->finish();
 }
 
 }  // namespace tamble::pdf

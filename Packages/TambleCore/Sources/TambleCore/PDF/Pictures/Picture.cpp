@@ -63,7 +63,7 @@ std::optional<SmallerPicture> smallerJpeg(const Picture& picture, const std::sto
               static_cast<std::size_t>(rows->channels()));
     auto data = shrunkJpeg(rows->decodedShape(), picture.target, rows->channels(), rows->colours(),
                            [&] { return rows->read(row) ? ByteView(row) : ByteView(); });
-    if (!data) return std::nullopt;
+    if (!data || !rows->finish()) return std::nullopt;
     const bool shrinks = picture.target != picture.layout.shape;
     return ifSmaller(
         SmallerPicture{
