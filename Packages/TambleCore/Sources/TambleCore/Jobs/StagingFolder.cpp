@@ -29,12 +29,6 @@ std::vector<std::filesystem::path> registries() {
             folders::temporary() / ("tamble-staging-" + std::to_string(::getuid()))};
 }
 
-bool isOwnFolder(const std::filesystem::path& folder) {
-    struct stat properties {};
-    return ::lstat(folder.c_str(), &properties) == 0 && S_ISDIR(properties.st_mode) &&
-           properties.st_uid == ::getuid();
-}
-
 std::filesystem::path makeRegistry() {
     std::error_code error;
     for (const auto& registry : registries()) {

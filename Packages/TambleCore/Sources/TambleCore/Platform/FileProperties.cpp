@@ -2,6 +2,7 @@
 #include <TambleCore/Support/PathKey.h>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace tamble {
 
@@ -13,6 +14,12 @@ std::optional<std::uint64_t> inodeOf(const std::filesystem::path& path) {
     struct stat properties {};
     if (::lstat(standardized(path).c_str(), &properties) != 0) return std::nullopt;
     return properties.st_ino;
+}
+
+bool isOwnFolder(const std::filesystem::path& folder) {
+    struct stat properties {};
+    return ::lstat(folder.c_str(), &properties) == 0 && S_ISDIR(properties.st_mode) &&
+           properties.st_uid == ::getuid();
 }
 
 }  // namespace tamble

@@ -13,4 +13,7 @@ bool isThere(const std::filesystem::path& path);
 /// Links are not followed; empty when nothing stands at the path.
 std::optional<std::uint64_t> inodeOf(const std::filesystem::path& path);
 
+/// Whether a folder that belongs to the user stands at the path; links are not followed.
+bool isOwnFolder(const std::filesystem::path& folder);
+
 }  // namespace tamble

@@ -1,3 +1,4 @@
+#include <TambleCore/Platform/FileProperties.h>
 #include <TambleCore/Platform/StandardFolders.h>
 #include <TambleCore/Platform/SystemError.h>
 #include <TambleCore/Platform/Trash.h>
@@ -13,12 +14,6 @@
 
 namespace tamble {
 namespace {
-
-bool isOwnFolder(const std::filesystem::path& folder) {
-    struct stat properties {};
-    return ::lstat(folder.c_str(), &properties) == 0 && S_ISDIR(properties.st_mode) &&
-           properties.st_uid == ::getuid();
-}
 
 /// A private folder of the user's, made if it is missing; false for a link and for somebody else's. A full
 /// disk is an error, since it can have a Bin.
