@@ -4,18 +4,10 @@
 namespace tamble {
 namespace {
 
-/// The change of one member: {"quality": "best"}.
-template <typename Value>
-Json change(const char* member, const Value& value) {
-    Json changes = Json::object();
-    changes[member] = encodeJson(value);
-    return changes;
-}
-
 PanelChoice formatChoice(ImageFormat format, std::string description) {
     return {.label = std::string(displayName(format)),
             .description = std::move(description),
-            .changes = change("output", ImageJobSettings::Output(image_output::Convert{format}))};
+            .changes = settingChange("output", ImageJobSettings::Output(image_output::Convert{format}))};
 }
 
 PanelSection formatSection() {
@@ -39,13 +31,13 @@ PanelSection qualitySection() {
             .control = PanelControl::segments,
             .choices = {{.label = "Smaller",
                          .description = "Noticeably smaller. Fine for chat apps.",
-                         .changes = change("quality", Quality::smaller)},
+                         .changes = settingChange("quality", Quality::smaller)},
                         {.label = "Balanced",
                          .description = "You won't see a difference. Recommended.",
-                         .changes = change("quality", Quality::balanced)},
+                         .changes = settingChange("quality", Quality::balanced)},
                         {.label = "Best",
                          .description = "Almost no change. Smaller savings.",
-                         .changes = change("quality", Quality::best)}}};
+                         .changes = settingChange("quality", Quality::best)}}};
 }
 
 PanelSection pngNote() {
@@ -54,12 +46,12 @@ PanelSection pngNote() {
         .note =
             "PNG files can't get much smaller without changing format. For big savings, convert them to WebP "
             "or JPEG instead.",
-        .onlyWith = change("output", ImageJobSettings::Output(image_output::KeepFormat{})),
+        .onlyWith = settingChange("output", ImageJobSettings::Output(image_output::KeepFormat{})),
         .onlyForType = std::string(contentTypeIdentifier(ImageFormat::png))};
 }
 
 PanelChoice sizeChoice(std::string label, int pixels) {
-    return {.label = std::move(label), .changes = change("maxPixelSize", pixels)};
+    return {.label = std::move(label), .changes = settingChange("maxPixelSize", pixels)};
 }
 
 std::vector<PanelSection> resizeSections() {
@@ -78,7 +70,7 @@ std::vector<PanelSection> resizeSections() {
 }
 
 PanelChoice rotationChoice(std::string label, ImageJobSettings::Rotation rotation) {
-    return {.label = std::move(label), .changes = change("rotation", rotation)};
+    return {.label = std::move(label), .changes = settingChange("rotation", rotation)};
 }
 
 PanelSection rotationSection() {
@@ -95,7 +87,7 @@ PanelSection rotationSection() {
 
 /// One of the two kinds of removal; each undoes the other.
 PanelChoice removalChoice(std::string label, std::string description, bool everything) {
-    Json changes = change("removeLocation", !everything);
+    Json changes = settingChange("removeLocation", !everything);
     changes["removeAllMetadata"] = everything;
     return {.label = std::move(label), .description = std::move(description), .changes = std::move(changes)};
 }
@@ -113,8 +105,8 @@ std::vector<PanelSection> removalSections() {
              {.label = "Keep the picture as it is",
               .description = "When possible the picture itself isn't re-saved, so quality stays exactly "
                              "the same.",
-              .changes = change("preferLosslessMetadataEdit", true)},
-             {.changes = change("preferLosslessMetadataEdit", false)}}}};
+              .changes = settingChange("preferLosslessMetadataEdit", true)},
+             {.changes = settingChange("preferLosslessMetadataEdit", false)}}}};
 }
 
 PanelSection backgroundNote() {

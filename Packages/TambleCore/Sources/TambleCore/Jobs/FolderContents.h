@@ -22,7 +22,7 @@ class FolderContents {
   private:
     /// The names of one folder by their keys.
     using Names = std::unordered_multimap<std::string, std::string>;
-    Names& namesIn(const std::filesystem::path& folder);
+    Names& namesIn(const std::string& folder);
 
     std::unordered_map<std::string, Names> folders_;
 };

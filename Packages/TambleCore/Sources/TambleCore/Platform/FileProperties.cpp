@@ -1,5 +1,4 @@
 #include <TambleCore/Platform/FileProperties.h>
-#include <TambleCore/Support/PathKey.h>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -11,8 +10,12 @@ bool isThere(const std::filesystem::path& path) {
 }
 
 std::optional<std::uint64_t> inodeOf(const std::filesystem::path& path) {
+    return inodeAt(standardized(path).c_str());
+}
+
+std::optional<std::uint64_t> inodeAt(const char* place) {
     struct stat properties {};
-    if (::lstat(standardized(path).c_str(), &properties) != 0) return std::nullopt;
+    if (::lstat(place, &properties) != 0) return std::nullopt;
     return properties.st_ino;
 }
 

@@ -103,8 +103,10 @@ std::filesystem::path put(const std::filesystem::path& item) {
 
 std::optional<std::filesystem::path> noteOf(const std::filesystem::path& item) {
     const std::filesystem::path path = standardized(item);
+    // Most items stand in no Bin, which is seen without taking the path apart.
+    const std::string& text = path.native();
+    if (!std::string_view(text).substr(0, text.rfind('/')).ends_with("/files")) return std::nullopt;
     const std::filesystem::path files = path.parent_path();
-    if (files.filename() != "files") return std::nullopt;
     std::filesystem::path note = files.parent_path() / "info" / path.filename();
     note += noteExtension;
     if (firstBytes(AT_FDCWD, note.c_str(), noteHeading.size()) != noteHeading) return std::nullopt;

@@ -14,12 +14,6 @@ bool isUnreserved(char c) {
            std::string_view("-._~/").find(c) != std::string_view::npos;
 }
 
-/// Surely the same when standardized; taking a path apart costs more than all the rest.
-bool isPlainAbsolute(std::string_view path) {
-    return path.starts_with('/') && path.find("//") == std::string_view::npos &&
-           path.find("/.") == std::string_view::npos;
-}
-
 }  // namespace
 
 std::string percentEncoded(std::string_view bytes) {
@@ -60,7 +54,7 @@ std::string fileURL(const FilePath& path) {
     const std::string& bytes = path.native();
     if (isPlainAbsolute(bytes)) return url += percentEncoded(bytes);
     std::string absolute = standardized(path).native();
-    if (bytes.ends_with('/') && absolute != "/") absolute += '/';
+    if (bytes.ends_with('/') && !absolute.ends_with('/')) absolute += '/';
     return url += percentEncoded(absolute);
 }
 

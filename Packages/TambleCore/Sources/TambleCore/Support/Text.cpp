@@ -16,6 +16,55 @@
 namespace tamble {
 namespace {
 
+char loweredASCII(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+char capitalASCII(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+std::string withASCII(char (*mapping)(char), std::string_view text) {
+    std::string result(text);
+    std::ranges::transform(result, result.begin(), mapping);
+    return result;
+}
+
+bool isLetterOrDigit(char c) {
+    return loweredASCII(c) != capitalASCII(c) || (c >= '0' && c <= '9');
+}
+
+/// Bytes that are not ASCII count as letters.
+std::string withASCIICapitals(std::string_view text) {
+    std::string result = withASCII(loweredASCII, text);
+    bool isInWord = false;
+    for (char& c : result) {
+        if (!isInWord) c = capitalASCII(c);
+        isInWord = isLetterOrDigit(c) || c == '\'' || static_cast<unsigned char>(c) >= 0x80;
+    }
+    return result;
+}
+
+icu::StringPiece piece(std::string_view text) {
+    return {text.data(), static_cast<std::int32_t>(text.size())};
+}
+
+/// What one of the library's mappings of UTF-8 in the root locale makes of the text.
+template <typename Mapping>
+std::string mapped(std::string_view text, std::string otherwise, const Mapping& mapping) {
+    UErrorCode status = U_ZERO_ERROR;
+    std::string result;
+    icu::StringByteSink<std::string> sink(&result);
+    mapping(piece(text), sink, status);
+    return U_SUCCESS(status) ? result : std::move(otherwise);
+}
+
+}  // namespace
+
+bool isASCII(std::string_view text) {
+    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
 bool isUTF8(std::string_view text) {
     const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
     const auto length = static_cast<std::int32_t>(text.size());
@@ -27,22 +76,6 @@ bool isUTF8(std::string_view text) {
     return true;
 }
 
-char loweredASCII(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-std::string withASCIILowered(std::string_view text) {
-    std::string result(text);
-    std::ranges::transform(result, result.begin(), loweredASCII);
-    return result;
-}
-
-}  // namespace
-
-bool isASCII(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
 std::string precomposed(std::string_view text) {
     if (isASCII(text) || !isUTF8(text)) return std::string(text);
     UErrorCode status = U_ZERO_ERROR;
@@ -50,26 +83,45 @@ std::string precomposed(std::string_view text) {
     if (U_FAILURE(status)) return std::string(text);
     std::string result;
     icu::StringByteSink<std::string> sink(&result);
-    nfc->normalizeUTF8(0, icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())), sink,
-                       nullptr, status);
+    nfc->normalizeUTF8(0, piece(text), sink, nullptr, status);
     return U_SUCCESS(status) ? result : std::string(text);
 }
 
 std::string lowercased(std::string_view text) {
-    if (isASCII(text) || !isUTF8(text)) return withASCIILowered(text);
-    UErrorCode status = U_ZERO_ERROR;
+    std::string plain = withASCII(loweredASCII, text);
+    if (isASCII(text) || !isUTF8(text)) return plain;
+    return mapped(text, std::move(plain), [](auto source, auto& sink, UErrorCode& status) {
+        icu::CaseMap::utf8ToLower("", 0, source, sink, nullptr, status);
+    });
+}
+
+std::string uppercased(std::string_view text) {
+    std::string plain = withASCII(capitalASCII, text);
+    if (isASCII(text) || !isUTF8(text)) return plain;
+    return mapped(text, std::move(plain), [](auto source, auto& sink, UErrorCode& status) {
+        icu::CaseMap::utf8ToUpper("", 0, source, sink, nullptr, status);
+    });
+}
+
+std::string titlecased(std::string_view text) {
+    if (!isUTF8(text)) return withASCIICapitals(text);
     std::string result;
-    icu::StringByteSink<std::string> sink(&result);
-    icu::CaseMap::utf8ToLower("", 0, icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())),
-                              sink, nullptr, status);
-    return U_SUCCESS(status) ? result : withASCIILowered(text);
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find_first_of("_."), text.size());
+        const std::string_view part = text.substr(0, end);
+        result += mapped(part, std::string(part), [](auto source, auto& sink, UErrorCode& status) {
+            icu::CaseMap::utf8ToTitle("", 0, nullptr, source, sink, nullptr, status);
+        });
+        if (end < text.size()) result += text[end];
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return result;
 }
 
 std::string printable(std::string_view bytes) {
     if (isASCII(bytes) || isUTF8(bytes)) return std::string(bytes);
     std::string result;
-    icu::UnicodeString::fromUTF8(icu::StringPiece(bytes.data(), static_cast<std::int32_t>(bytes.size())))
-        .toUTF8String(result);
+    icu::UnicodeString::fromUTF8(piece(bytes)).toUTF8String(result);
     return result;
 }
 

@@ -6,6 +6,7 @@
 namespace tamble {
 
 bool isASCII(std::string_view text);
+bool isUTF8(std::string_view text);
 
 /// Canonical precomposed Unicode (NFC). Bytes that are not UTF-8 come back unchanged, so that any file name
 /// can be a key.
@@ -14,6 +15,13 @@ std::string precomposed(std::string_view text);
 /// Lower case by Unicode's default mapping, independent of the language in use; bytes that are not UTF-8 come
 /// back with only their ASCII letters lowered.
 std::string lowercased(std::string_view text);
+
+/// Upper case in the same way ("Straße" → "STRASSE").
+std::string uppercased(std::string_view text);
+
+/// Every word with its first letter as a capital and the rest in lower case, in the same way. Words are
+/// Unicode's (UAX #29), and "_" and "." part them as well, as they do in names of files.
+std::string titlecased(std::string_view text);
 
 /// The text with every byte sequence that is not UTF-8 replaced by U+FFFD: for people to read, never to open
 /// a file.

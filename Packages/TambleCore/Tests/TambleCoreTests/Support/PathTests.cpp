@@ -40,6 +40,7 @@ TEST(FileURL, everyNameComesBackByteForByte) {
     EXPECT_EQ(pathFromFileURL(url), std::filesystem::path(standardized(bytes)));
     EXPECT_EQ(fileURL("/a b/é%"), "file:///a%20b/%C3%A9%25");
     EXPECT_EQ(fileURL("/a/"), "file:///a/");
+    EXPECT_EQ(fileURL(pathFromFileURL(fileURL("//")).value()), fileURL("//"));
     EXPECT_EQ(pathFromFileURL("file://localhost/a%2fb"), "/a/b");
 }
 

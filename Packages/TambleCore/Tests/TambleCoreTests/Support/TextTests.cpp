@@ -17,6 +17,15 @@ TEST(Text, composesAndLowersUnicodeAndLeavesOtherBytesAlone) {
     EXPECT_EQ(printable("\xE2\x82"), "\uFFFD");
 }
 
+TEST(Text, mapsLetterCaseByUnicodesRules) {
+    EXPECT_EQ(uppercased("straße ǆ ﬁ ß i"), "STRASSE Ǆ FI SS I");
+    EXPECT_EQ(uppercased("a\xFF ä"), "A\xFF ä");
+    EXPECT_EQ(titlecased("goa TRIP, don't ΟΔΟΣ ǆ ǉiljana"), "Goa Trip, Don't Οδος ǅ ǈiljana");
+    EXPECT_EQ(titlecased("IMG_0042_final.cut-two 3d élan e\u0301lan"),
+              "Img_0042_Final.Cut-Two 3d Élan E\u0301lan");
+    EXPECT_EQ(titlecased("o'brien \xFF BIG_top"), "O'brien \xFF Big_Top");
+}
+
 TEST(Text, trimsEveryUnicodeSpaceAtBothEnds) {
     EXPECT_EQ(trimmed(" \t\r\n\u00A0\u3000a b\u2028\u0085 "), "a b");
     EXPECT_EQ(trimmed("\u2003\n"), "");

@@ -50,6 +50,15 @@ void appendJson(std::string& text, const T& value) {
             }
         });
         text += '}';
+    } else if constexpr (CaseVariant<T>) {
+        std::visit(
+            [&](const auto& chosen) {
+                constexpr auto name = std::remove_cvref_t<decltype(chosen)>::caseName;
+                text.append("{\"").append(name).append("\":");
+                appendJson(text, chosen);
+                text += '}';
+            },
+            value);
     } else {
         text += writeJson(encodeJson(value));
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <TambleCore/Support/Json/Json.h>
+#include <TambleCore/Support/Json/JsonCoding.h>
 
 #include <cstdint>
 #include <string>
@@ -54,5 +54,13 @@ struct PanelSection {
 struct OptionsPanel {
     std::vector<PanelSection> sections;
 };
+
+/// The change of one member: {"quality": "best"}.
+template <typename Value>
+Json settingChange(const char* member, const Value& value) {
+    Json changes = Json::object();
+    changes[member] = encodeJson(value);
+    return changes;
+}
 
 }  // namespace tamble
