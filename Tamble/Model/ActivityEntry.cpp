@@ -43,6 +43,18 @@ ActivityEntry entryOf(const journal::Job& job, UndoRecord undo,
     return entry;
 }
 
+std::string namesSentence(const UndoReport& report) {
+    std::string text = report.restoredItems == 1
+                           ? "1 file has its old name again."
+                           : fmt::format("{} files have their old names again.", report.restoredItems);
+    if (report.problems > 0) {
+        text += report.problems == 1
+                    ? " 1 file couldn't get its old name back."
+                    : fmt::format(" {} files couldn't get their old names back.", report.problems);
+    }
+    return text;
+}
+
 /// The number of exactly that many digits at the position.
 std::optional<int> numberAt(std::string_view text, std::size_t position, std::size_t digits) {
     int number = 0;
@@ -87,7 +99,7 @@ ActivityEntry activityEntry(const journal::Job& job, const JobResult& result) {
 ActivityEntry activityEntry(const journal::Job& job, UndoRecord undo,
                             std::chrono::system_clock::time_point died) {
     ActivityEntry entry = entryOf(job, std::move(undo), died);
-    entry.doneCount = static_cast<int>(entry.outputFiles.size());
+    entry.doneCount = static_cast<int>(entry.outputFiles.size() + entry.undo.renamedItems.size());
     return entry;
 }
 
@@ -114,7 +126,12 @@ std::optional<std::chrono::system_clock::time_point> timeOfISODate(std::string_v
            std::chrono::seconds(*second);
 }
 
-std::string undoSentence(const UndoReport& report) {
+bool isOfRenames(const UndoRecord& record) {
+    return !record.renamedItems.empty() && record.createdFiles.empty() && record.trashedItems.empty();
+}
+
+std::string undoSentence(const UndoReport& report, const UndoRecord& record) {
+    if (isOfRenames(record)) return namesSentence(report);
     const std::string removed = fmt::format("{} new files removed", report.removedOutputs);
     const std::string restored = fmt::format("{} files put back.", report.restoredItems);
     // What did not happen is left out, but something is always said.

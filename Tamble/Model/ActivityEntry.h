@@ -49,7 +49,10 @@ std::string isoDate(std::chrono::system_clock::time_point time);
 /// Empty when the text is not such a date.
 std::optional<std::chrono::system_clock::time_point> timeOfISODate(std::string_view text);
 
-/// What an undo did, as people read it.
-std::string undoSentence(const UndoReport& report);
+/// Whether the job renamed files in place and did nothing else.
+bool isOfRenames(const UndoRecord& record);
+
+/// What the undo of a job did, as people read it.
+std::string undoSentence(const UndoReport& report, const UndoRecord& record);
 
 }  // namespace tamble

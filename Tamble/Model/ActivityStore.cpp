@@ -78,9 +78,13 @@ std::optional<UndoReport> ActivityStore::undo(std::string id) {
         const FileLock lock = FileLock::waitFor(file_.lockFile("undo"));
         if (auto onDisk = entriesOnDisk()) hold(std::move(*onDisk));
         const auto found = find(stored_, id);
-        if (auto entry = found == stored_.end() ? std::nullopt : std::optional(found->decoded());
-            entry && !entry->undone) {
-            report = takeBack(std::move(*entry));
+        // Decoded already, it need not be once more.
+        const ActivityEntry* known = entries_ ? entry(id) : nullptr;
+        if (auto undoing = found == stored_.end() ? std::nullopt
+                           : known != nullptr     ? std::optional(*known)
+                                                  : std::optional(found->decoded());
+            undoing && !undoing->undone) {
+            report = takeBack(std::move(*undoing));
             activityLog.notice("Undid job: {} removed, {} restored, {} problems", report->removedOutputs,
                                report->restoredItems, report->problems);
         }
@@ -97,9 +101,11 @@ UndoReport ActivityStore::takeBack(ActivityEntry entry) {
     const std::string id = entry.id;
     UndoMarks marks(file_.path());
     const bool isResumed = marks.contain(id);
-    marks.add(id);
-    const UndoReport report =
-        isResumed ? resume(entry.undo, *engine_.fileOps) : apply(entry.undo, *engine_.fileOps);
+    auto wayBack = isResumed ? marks.wayBack(id) : std::vector<PlannedRename>();
+    if (wayBack.empty()) wayBack = plannedWayBack(entry.undo);
+    marks.add(id, wayBack);
+    const UndoReport report = isResumed ? resume(entry.undo, std::move(wayBack), *engine_.fileOps)
+                                        : apply(entry.undo, std::move(wayBack), *engine_.fileOps);
     undoneIDs_.insert(id);
     entry.undone = true;
     const StoredEntry undone(entry);
@@ -150,8 +156,9 @@ bool ActivityStore::merge(const Change& change) {
 }
 
 void ActivityStore::hold(std::vector<StoredEntry> stored) {
+    const bool isSame = std::ranges::equal(stored, stored_, {}, &StoredEntry::json, &StoredEntry::json);
     stored_ = std::move(stored);
-    entries_.reset();
+    if (!isSame) entries_.reset();
 }
 
 void ActivityStore::changed() const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <TambleCore/Jobs/Renaming/PlannedRename.h>
+
 #include <filesystem>
 #include <set>
 #include <string>
@@ -13,12 +15,16 @@ class UndoMarks {
     explicit UndoMarks(const std::filesystem::path& activityFile);
 
     bool contain(const std::string& id) const { return ids_.contains(id); }
-    /// A mark that cannot be written is logged, and no reason not to undo.
-    void add(const std::string& id);
+    /// `wayBack`: how files get their old names. A mark that cannot be written is logged, and no reason not to
+    /// undo.
+    void add(const std::string& id, std::span<const PlannedRename> wayBack);
+    /// As it was added with the mark. Empty when there is none, or none that can be read.
+    std::vector<PlannedRename> wayBack(const std::string& id) const;
     void remove(const std::string& id);
 
   private:
     void save() const;
+    std::filesystem::path wayBackFile(const std::string& id) const;
 
     std::filesystem::path file_;
     std::set<std::string> ids_;

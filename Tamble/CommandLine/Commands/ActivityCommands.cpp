@@ -30,7 +30,8 @@ std::string toolTitle(const std::string& id) {
 }
 
 std::string countsText(const ActivityEntry& entry) {
-    std::string text = countText(entry.doneCount, "new file", "new files");
+    std::string text = isOfRenames(entry.undo) ? countText(entry.doneCount, "file renamed", "files renamed")
+                                               : countText(entry.doneCount, "new file", "new files");
     if (entry.skippedCount > 0) text += fmt::format(", {} skipped", entry.skippedCount);
     if (entry.failedCount > 0) text += fmt::format(", {} failed", entry.failedCount);
     return text;
@@ -102,6 +103,7 @@ ExitStatus undoJob(const ParsedArguments& arguments) {
         return ExitStatus::someFailed;
     }
     const std::string id = entry->id;
+    const UndoRecord record = entry->undo;
     const auto report = [&] {
         // Taking half of a job back would be worse than waiting.
         const StopSignals signals([] { printError("Undoing; finishing first.\n"); });
@@ -117,7 +119,7 @@ ExitStatus undoJob(const ParsedArguments& arguments) {
         json["report"] = encodeJson(*report);
         printOutput(writeIndentedJson(json) + '\n');
     } else {
-        printOutput(localized(undoSentence(*report)) + '\n');
+        printOutput(localized(undoSentence(*report, record)) + '\n');
     }
     return report->problems > 0 ? ExitStatus::someFailed : ExitStatus::allDone;
 }

@@ -7,7 +7,7 @@
 
 #include <thread>
 
-#include <TambleCoreTests/TestFolder.h>
+#include <TambleCoreTests/Jobs/KillingFileOperations.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -137,6 +137,35 @@ TEST_F(Activity, AFailedSaveChangesNothingInMemory) {
     EXPECT_THAT(log.text(), testing::StartsWith("activity: Couldn't save activity: "));
 }
 
+TEST_F(Activity, AnUndoOfRenamesThatWasKilledIsGoneOnWith) {
+    // Swapped: no name tells which file stands under it.
+    const path a = folder.write("a", "was b"), b = folder.write("b", "was a");
+    ActivityEntry renaming = entry("names");
+    renaming.undo.renamedItems = {{a, b}, {b, a}};
+    for (int call = 1;; ++call) {
+        SCOPED_TRACE(call);
+        renaming.id = newUUID();
+        store().add(renaming);
+        const bool isKilled =
+            KillingFileOperations::kill(call, KillingFileOperations::When::after, [&](const auto& killing) {
+                ActivityStore dying(JobEngine{.fileOps = killing}, file());
+                dying.load();
+                dying.undo(renaming.id);
+            });
+        if (isKilled) {
+            ActivityStore next = store();
+            next.load();
+            EXPECT_EQ(next.undo(renaming.id), (UndoReport{.restoredItems = 2}));
+        }
+        ASSERT_EQ(contentOf(a) + contentOf(b), "was awas b");
+        EXPECT_THAT(namesIn(file().parent_path()), testing::Not(testing::HasSubstr("undoing")));
+        if (!isKilled) break;
+        folder.write("a", "was b");
+        folder.write("b", "was a");
+        ASSERT_LT(call, 10);
+    }
+}
+
 TEST_F(Activity, WritersAtTheSameTimeLoseNothing) {
     constexpr int each = 20;
     const pid_t child = ::fork();
@@ -156,12 +185,16 @@ TEST_F(Activity, WritersAtTheSameTimeLoseNothing) {
 }
 
 TEST(ActivityTexts, SayWhatPeopleRead) {
-    EXPECT_EQ(undoSentence({.removedOutputs = 12, .restoredItems = 3}),
+    EXPECT_EQ(undoSentence({.removedOutputs = 12, .restoredItems = 3}, {}),
               "12 new files removed, 3 files put back.");
-    EXPECT_EQ(undoSentence({.removedOutputs = 1, .problems = 2, .keptBecauseChanged = 4}),
+    EXPECT_EQ(undoSentence({.removedOutputs = 1, .problems = 2, .keptBecauseChanged = 4}, {}),
               "1 new files removed. 2 items couldn't be put back (the Bin may have been "
               "emptied). "
               "4 new files were changed after the job, so they were kept.");
+    const UndoRecord renames{.renamedItems = {{"/a", "/b"}}};
+    EXPECT_EQ(undoSentence({.restoredItems = 2000}, renames), "2000 files have their old names again.");
+    EXPECT_EQ(undoSentence({.restoredItems = 1, .problems = 2}, renames),
+              "1 file has its old name again. 2 files couldn't get their old names back.");
     const auto file = [](const char* url, const char* root, bool isLoose) {
         return InputFile{.url = url, .root = root, .isLoose = isLoose};
     };

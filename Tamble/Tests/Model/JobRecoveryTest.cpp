@@ -16,7 +16,7 @@ class Recovery : public testing::Test {
     Recovery() {
         files.push_back({.url = folder.write("a.png", "old"), .root = folder.files(), .byteSize = 3});
     }
-    std::vector<ActivityEntry> recover() {
+    std::vector<RecoveredJob> recover() {
         ActivityStore store(JobEngine{.fileOps = fileOps});
         return recoverInterruptedJobs(store, *fileOps);
     }
@@ -40,8 +40,10 @@ TEST_F(Recovery, AJobThatWasNotRememberedIsFoundOnce) {
     EXPECT_TRUE(recover().empty()) << "its program lives";
 
     running.reset();
-    const auto entries = recover();
-    ASSERT_EQ(entries.size(), 1U);
+    const auto jobs = recover();
+    ASSERT_EQ(jobs.size(), 1U);
+    EXPECT_EQ(jobs[0].outcome, RecoveredJob::Outcome::logged);
+    const std::vector<ActivityEntry> entries{jobs[0].entry};
     EXPECT_EQ(std::tuple(entries[0].id, entries[0].toolID, entries[0].subject),
               std::tuple(job.id, "image.convert", folder.files().filename().native()));
     EXPECT_EQ(std::tuple(entries[0].doneCount, entries[0].inputBytes, entries[0].outputBytes),

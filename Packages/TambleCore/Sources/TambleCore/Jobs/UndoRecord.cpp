@@ -1,9 +1,9 @@
+#include <TambleCore/Jobs/Renaming/RenameMoves.h>
 #include <TambleCore/Jobs/UndoRecord.h>
 #include <TambleCore/Platform/CheckedFileOperations.h>
 #include <TambleCore/Platform/FileProperties.h>
 #include <TambleCore/Support/Log.h>
 #include <TambleCore/Support/PathKey.h>
-#include <TambleCore/Support/UUID.h>
 
 #include <ranges>
 #include <unordered_map>
@@ -17,7 +17,8 @@ constexpr Log engineLog("engine");
 /// Takes one record back; each step counts itself.
 class Undo {
   public:
-    Undo(const UndoRecord& record, FileOperations& fileOps) : record_(record), fileOps_(fileOps) {}
+    Undo(const UndoRecord& record, RenameMoves wayBack, FileOperations& fileOps)
+        : record_(record), wayBack_(std::move(wayBack)), fileOps_(fileOps) {}
 
     UndoReport run() {
         removeOutputs();
@@ -77,24 +78,13 @@ class Undo {
         if (!std::filesystem::exists(folder)) fileOps_.createDirectory(folder);
     }
 
-    /// In two passes, so that names swapped among the files are free when they are needed.
     void renameBack() {
-        struct Parked {
-            const RenamedItem* item;
-            std::filesystem::path place;
-        };
-        std::vector<Parked> parked;
-        for (const auto& item : record_.renamedItems) {
-            std::filesystem::path place = standardized(item.to).parent_path() / (".tamble-undo-" + newUUID());
-            if (succeeds([&] { fileOps_.move(item.to, place); })) parked.push_back({&item, std::move(place)});
-        }
-        for (const auto& [item, place] : parked) {
-            if (succeeds([&] { fileOps_.move(place, item->from); })) {
-                ++report_.restoredItems;
-            } else {
-                engineLog.error(
-                    "Undo couldn't put a renamed file back; it is at a temporary name in its folder");
-            }
+        wayBack_.run(RenameMoves::AfterProblem::goOn);
+        const std::size_t back = wayBack_.count(RenamePlace::to);
+        report_.restoredItems += static_cast<int>(back);
+        report_.problems += static_cast<int>(wayBack_.renames().size() - back);
+        for (std::size_t i = wayBack_.count(RenamePlace::parked); i > 0; --i) {
+            engineLog.error("Undo couldn't put a renamed file back; it is at a temporary name in its folder");
         }
     }
 
@@ -109,17 +99,29 @@ class Undo {
     }
 
     const UndoRecord& record_;
+    RenameMoves wayBack_;
     CheckedFileOperations fileOps_;
     UndoReport report_;
 };
 
 }  // namespace
 
-UndoReport apply(const UndoRecord& record, FileOperations& fileOps) {
-    return Undo(record, fileOps).run();
+std::vector<PlannedRename> plannedWayBack(const UndoRecord& record) {
+    std::vector<RenamedItem> items;
+    items.reserve(record.renamedItems.size());
+    for (const RenamedItem& item : record.renamedItems) items.push_back({.from = item.to, .to = item.from});
+    return plannedRenames(items, ".tamble-undo-");
 }
 
-UndoReport resume(UndoRecord record, FileOperations& fileOps) {
+UndoReport apply(const UndoRecord& record, FileOperations& fileOps) {
+    return apply(record, plannedWayBack(record), fileOps);
+}
+
+UndoReport apply(const UndoRecord& record, std::vector<PlannedRename> wayBack, FileOperations& fileOps) {
+    return Undo(record, RenameMoves(std::move(wayBack), fileOps), fileOps).run();
+}
+
+UndoReport resume(UndoRecord record, std::vector<PlannedRename> wayBack, FileOperations& fileOps) {
     std::unordered_set<std::string> back;
     std::erase_if(record.trashedItems, [&](const TrashedItem& item) {
         if (isThere(item.inTrash) || !isThere(item.original)) return false;
@@ -128,7 +130,7 @@ UndoReport resume(UndoRecord record, FileOperations& fileOps) {
     });
     std::erase_if(record.createdFiles,
                   [&](const std::filesystem::path& output) { return back.contains(pathKey(output)); });
-    UndoReport report = apply(record, fileOps);
+    UndoReport report = Undo(record, RenameMoves::resumed(std::move(wayBack), fileOps), fileOps).run();
     report.restoredItems += static_cast<int>(back.size());
     return report;
 }

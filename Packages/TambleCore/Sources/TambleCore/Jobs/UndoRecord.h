@@ -1,5 +1,6 @@
 #pragma once
 
+#include <TambleCore/Jobs/Renaming/PlannedRename.h>
 #include <TambleCore/Platform/FileOperations.h>
 #include <TambleCore/Support/Json/JsonCoding.h>
 
@@ -12,14 +13,6 @@ struct TrashedItem {
     friend bool operator==(const TrashedItem&, const TrashedItem&) = default;
 };
 BOOST_DESCRIBE_STRUCT(TrashedItem, (), (original, inTrash))
-
-/// A file that a job renamed.
-struct RenamedItem {
-    FilePath from;
-    FilePath to;
-    friend bool operator==(const RenamedItem&, const RenamedItem&) = default;
-};
-BOOST_DESCRIBE_STRUCT(RenamedItem, (), (from, to))
 
 /// Enough of a file to see whether it was changed since. For a folder: the sum of the sizes and the newest
 /// time over all it holds.
@@ -67,9 +60,14 @@ BOOST_DESCRIBE_STRUCT(UndoReport, (), (removedOutputs, restoredItems, problems, 
 /// output that is gone already counts as nothing. Never throws, never overwrites, never stops at a problem.
 UndoReport apply(const UndoRecord& record, FileOperations& fileOps);
 
+/// How apply() gives the files of the record their old names; to be written down before, so that resume()
+/// finds them again.
+std::vector<PlannedRename> plannedWayBack(const UndoRecord& record);
+UndoReport apply(const UndoRecord& record, std::vector<PlannedRename> wayBack, FileOperations& fileOps);
+
 /// Goes on with an apply() during which the program died: what is back already is left alone, also where it
 /// now stands under the name of an output.
-UndoReport resume(UndoRecord record, FileOperations& fileOps);
+UndoReport resume(UndoRecord record, std::vector<PlannedRename> wayBack, FileOperations& fileOps);
 
 /// The path itself, or its file URL when its bytes are not UTF-8 and so cannot be a JSON key.
 FilePath fingerprintKey(const FilePath& path);

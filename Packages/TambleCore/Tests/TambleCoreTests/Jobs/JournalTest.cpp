@@ -1,63 +1,14 @@
 #include <TambleCore/Jobs/Journal/InterruptedJob.h>
 #include <TambleCore/Jobs/Journal/JournalFile.h>
 
-#include <csignal>
-
-#include <TambleCoreTests/Jobs/TestProcessors.h>
+#include <TambleCoreTests/Jobs/KillingFileOperations.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace tamble {
 namespace {
 
 using std::filesystem::path;
-
-/// Kills the program before or after its Nth change of the file system.
-class KillingFileOperations final : public FileOperations {
-  public:
-    enum class When { before, after };
-    KillingFileOperations(int call, When when) : call_(call), when_(when) {}
-
-    /// A move to such a name fails, so that its original is put back.
-    static constexpr const char* refusedName = "refused.webp";
-
-    path trash(const path& item) override {
-        path landed;
-        step([&] { landed = real_.trash(item); });
-        return landed;
-    }
-    void move(const path& from, const path& to) override {
-        step([&] {
-            if (to.filename() == refusedName) throw TestFileOperations::fault();
-            real_.move(from, to);
-        });
-    }
-    void remove(const path& item) override {
-        step([&] { real_.remove(item); });
-    }
-    void createDirectory(const path& folder) override {
-        step([&] { real_.createDirectory(folder); });
-    }
-    void removeEmptyDirectory(const path& folder) override {
-        step([&] { real_.removeEmptyDirectory(folder); });
-    }
-    std::optional<path> findInTrash(const path& original) override { return real_.findInTrash(original); }
-    bool isNoBinError(const std::error_code& error) const override { return real_.isNoBinError(error); }
-
-  private:
-    void step(const std::function<void()>& change) {
-        const bool isTheCall = --call_ == 0;
-        if (isTheCall && when_ == When::before) std::raise(SIGKILL);
-        change();
-        if (isTheCall) std::raise(SIGKILL);
-    }
-
-    SystemFileOperations real_;
-    int call_;
-    When when_;
-};
 
 class Journal : public testing::Test {
   protected:
@@ -85,15 +36,8 @@ class Journal : public testing::Test {
 
     /// Runs the job in a process of its own and answers whether it was killed.
     bool isKilled(int call, KillingFileOperations::When when, const JobConfiguration& configuration) const {
-        const pid_t child = ::fork();
-        if (child == 0) {
-            run(std::make_shared<KillingFileOperations>(call, when), configuration);
-            ::_exit(0);
-        }
-        int status = 0;
-        ::waitpid(child, &status, 0);
-        EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
-        return WIFSIGNALED(status);
+        return KillingFileOperations::kill(
+            call, when, [&](std::shared_ptr<FileOperations> killing) { run(killing, configuration); });
     }
 
     TestFolder folder;
@@ -190,17 +134,10 @@ TEST_F(Journal, AnUndoThatWasKilledIsGoneOnWith) {
             SCOPED_TRACE(call);
             const UndoRecord record = run(std::make_shared<SystemFileOperations>(), configuration).undo;
             std::filesystem::remove(journalFile());
-            const pid_t child = ::fork();
-            if (child == 0) {
-                KillingFileOperations killing(call, when);
-                apply(record, killing);
-                ::_exit(0);
-            }
-            int status = 0;
-            ::waitpid(child, &status, 0);
+            const bool isKilled = KillingFileOperations::kill(
+                call, when, [&](const auto& killing) { apply(record, *killing); });
             SystemFileOperations real;
-            const bool isKilled = WIFSIGNALED(status);
-            EXPECT_EQ(isKilled ? resume(record, real).problems : 0, 0);
+            EXPECT_EQ(isKilled ? resume(record, {}, real).problems : 0, 0);
             ASSERT_EQ(snapshot(folder.files()), before);
             if (!isKilled) break;
             ASSERT_LT(call, 50);

@@ -237,6 +237,9 @@ class TestJournal final : public JobJournal {
     void didTrash(const TrashedItem& item) override { say("trash", item.original); }
     void didPutBack(const TrashedItem& item) override { say("back", item.original); }
     void didCreate(const path& output, const FileFingerprint&) override { say("create", output); }
+    void willRename(const PlannedRename& rename) override { say("rename", rename.to); }
+    void didRenameAll() override { say("renamed"); }
+    void didKeepAllNames() override { say("kept"); }
 
   private:
     void say(const char* what, const path& item = {}) {

@@ -9,6 +9,7 @@
 #include <functional>
 
 #include <TambleCoreTests/TestFolder.h>
+#include <fmt/format.h>
 
 namespace tamble {
 

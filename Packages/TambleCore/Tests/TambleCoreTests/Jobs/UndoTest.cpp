@@ -4,7 +4,7 @@
 #include <chrono>
 #include <set>
 
-#include <TambleCoreTests/Jobs/TestProcessors.h>
+#include <TambleCoreTests/Jobs/KillingFileOperations.h>
 
 namespace tamble {
 namespace {
@@ -110,6 +110,36 @@ TEST_F(Undoing, AFaultAtAnyStepKeepsEveryRenamedFile) {
         EXPECT_EQ(report.restoredItems + report.problems, 3);
         std::filesystem::remove_all(folder.files());
         if (steps < faulty) break;
+    }
+}
+
+TEST_F(Undoing, OfRenamesThatWasKilledAtAnyMoveEndsWithTheOldNames) {
+    // A rotation, a swap, a chain and one on its own.
+    std::vector<RenamedItem> items;
+    for (const auto& [from, to] :
+         {std::pair("a", "b"), std::pair("b", "c"), std::pair("c", "a"), std::pair("d", "e"),
+          std::pair("e", "d"), std::pair("f", "g"), std::pair("g", "h"), std::pair("i", "j")}) {
+        items.push_back({folder.files() / from, folder.files() / to});
+    }
+    const UndoRecord record{.renamedItems = items};
+    for (const auto when : {KillingFileOperations::When::before, KillingFileOperations::When::after}) {
+        for (int call = 1;; ++call) {
+            SCOPED_TRACE(call);
+            for (const auto& item : items)
+                folder.write(item.to.filename(), "was " + item.from.filename().native());
+            const auto wayBack = plannedWayBack(record);
+            const bool isKilled = KillingFileOperations::kill(
+                call, when, [&](const auto& killing) { apply(record, wayBack, *killing); });
+            if (isKilled) {
+                EXPECT_EQ(resume(record, wayBack, fileOps), (UndoReport{.restoredItems = 8}));
+            }
+            for (const auto& item : items)
+                ASSERT_EQ(contentOf(item.from), "was " + item.from.filename().native());
+            EXPECT_EQ(namesIn(folder.files()), "a|b|c|d|e|f|g|i");
+            std::filesystem::remove_all(folder.files());
+            if (!isKilled) break;
+            ASSERT_LT(call, 50);
+        }
     }
 }
 

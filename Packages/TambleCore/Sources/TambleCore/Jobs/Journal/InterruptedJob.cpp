@@ -1,10 +1,12 @@
 #include <TambleCore/Jobs/Journal/InterruptedJob.h>
 #include <TambleCore/Jobs/Journal/JournalText.h>
+#include <TambleCore/Jobs/Renaming/RenameMoves.h>
 #include <TambleCore/Platform/AtomicFile.h>
 #include <TambleCore/Platform/FileProperties.h>
 #include <TambleCore/Platform/RecentlyTrashed.h>
 #include <TambleCore/Support/PathKey.h>
 
+#include <algorithm>
 #include <chrono>
 #include <unordered_set>
 #include <utility>
@@ -73,13 +75,33 @@ class Reconciliation {
     std::unordered_set<std::string> trashed_;
 };
 
+bool isUnfinished(const PlannedRename& rename) {
+    const RenamePlace place = placeOf(rename);
+    return place == RenamePlace::from || place == RenamePlace::parked;
+}
+
+void addRenames(InterruptedJob& interrupted, JournalText& text) {
+    if (text.areAllNamesKept) return;
+    if (!text.areAllRenamed && std::ranges::any_of(text.renames, isUnfinished)) {
+        interrupted.unfinishedRenames = std::move(text.renames);
+        return;
+    }
+    for (PlannedRename& rename : text.renames) {
+        interrupted.undo.renamedItems.push_back({std::move(rename.from), std::move(rename.to)});
+    }
+}
+
 }  // namespace
 
 std::optional<InterruptedJob> InterruptedJob::read(const std::filesystem::path& journalFile) {
     JournalText text = JournalText::of(readWholeFile(journalFile));
     if (!text.hasBegun) return std::nullopt;
     InterruptedJob interrupted{.job = text.job};
-    interrupted.undo = Reconciliation(std::move(text)).run();
+    if (text.renames.empty()) {
+        interrupted.undo = Reconciliation(std::move(text)).run();
+    } else {
+        addRenames(interrupted, text);
+    }
     return interrupted;
 }
 

@@ -9,6 +9,9 @@ struct InterruptedJob {
     journal::Job job;
     /// What the job had changed by then.
     UndoRecord undo;
+    /// The files of a job that was renaming them in place, if not all have their new names: they are to get
+    /// their old ones back, see RenameMoves.
+    std::vector<PlannedRename> unfinishedRenames = {};
 
     /// What the journal tells, compared with what is on disk: of the step during which the program died the
     /// journal knows only that it was planned. Call it before anybody removes the staging folders. Empty when

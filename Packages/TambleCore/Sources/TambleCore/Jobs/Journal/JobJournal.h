@@ -29,6 +29,12 @@ class JobJournal {
     /// A file came back from the Bin, because its item could not be saved.
     virtual void didPutBack(const TrashedItem& item) = 0;
     virtual void didCreate(const std::filesystem::path& output, const FileFingerprint& fingerprint) = 0;
+
+    /// Called for every file of a job that renames in place, before willBeginSaving().
+    virtual void willRename(const PlannedRename& rename) = 0;
+    virtual void didRenameAll() = 0;
+    /// A file could not be renamed, and all have their old names again.
+    virtual void didKeepAllNames() = 0;
 };
 
 }  // namespace tamble

@@ -2,6 +2,7 @@
 #include <TambleCore/Platform/AtomicFile.h>
 #include <TambleCore/Platform/FileProperties.h>
 #include <TambleCore/Platform/SystemError.h>
+#include <TambleCore/Support/Json/JsonText.h>
 
 #include <cerrno>
 #include <utility>
@@ -63,6 +64,19 @@ void JournalFile::didCreate(const std::filesystem::path& output, const FileFinge
     add(journal::Created{output, fingerprint});
 }
 
+void JournalFile::willRename(const PlannedRename& rename) {
+    if (!lock_) open();
+    add(journal::Renaming{rename});
+}
+
+void JournalFile::didRenameAll() {
+    add(journal::RenamedAll{});
+}
+
+void JournalFile::didKeepAllNames() {
+    add(journal::KeptAllNames{});
+}
+
 /// A file that somebody tidied away between its making and its locking is no use.
 void JournalFile::open() {
     std::filesystem::create_directories(file_.parent_path());
@@ -72,10 +86,10 @@ void JournalFile::open() {
     add(job_);
 }
 
-void JournalFile::add(journal::Line line) {
+void JournalFile::add(const journal::Line& line) {
     // The break comes first: behind a line of which a full disk took a part, the next one still is its own.
     unwritten_ += '\n';
-    unwritten_ += writeJson(encodeJson(line));
+    appendJson(unwritten_, line);
     if (hasBegun_ || unwritten_.size() >= bufferSize) flush();
 }
 

@@ -29,10 +29,13 @@ class JournalFile final : public JobJournal {
     void didTrash(const TrashedItem& item) override;
     void didPutBack(const TrashedItem& item) override;
     void didCreate(const std::filesystem::path& output, const FileFingerprint& fingerprint) override;
+    void willRename(const PlannedRename& rename) override;
+    void didRenameAll() override;
+    void didKeepAllNames() override;
 
   private:
     void open();
-    void add(journal::Line line);
+    void add(const journal::Line& line);
     void flush();
 
     std::filesystem::path file_;

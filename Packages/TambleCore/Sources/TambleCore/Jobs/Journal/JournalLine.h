@@ -67,6 +67,24 @@ struct Created {
 };
 BOOST_DESCRIBE_STRUCT(Created, (), (value, fingerprint))
 
-using Line = std::variant<Job, Planned, Begun, CreatedFolder, Trashed, PutBack, Created>;
+/// A file that is about to be renamed in place.
+struct Renaming {
+    static constexpr std::string_view caseName = "renaming";
+    PlannedRename value;
+};
+BOOST_DESCRIBE_STRUCT(Renaming, (), (value))
+
+struct RenamedAll {
+    static constexpr std::string_view caseName = "renamedAll";
+};
+BOOST_DESCRIBE_STRUCT(RenamedAll, (), ())
+
+struct KeptAllNames {
+    static constexpr std::string_view caseName = "keptAllNames";
+};
+BOOST_DESCRIBE_STRUCT(KeptAllNames, (), ())
+
+using Line = std::variant<Job, Planned, Begun, CreatedFolder, Trashed, PutBack, Created, Renaming, RenamedAll,
+                          KeptAllNames>;
 
 }  // namespace tamble::journal

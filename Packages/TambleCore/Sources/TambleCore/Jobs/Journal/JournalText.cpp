@@ -32,6 +32,9 @@ class Reader {
         record().createdFingerprints.insert_or_assign(fingerprintKey(line.value), line.fingerprint);
         record().createdFiles.push_back(std::move(line.value));
     }
+    void operator()(journal::Renaming& line) { text_.renames.push_back(std::move(line.value)); }
+    void operator()(journal::RenamedAll&) { text_.areAllRenamed = true; }
+    void operator()(journal::KeptAllNames&) { text_.areAllNamesKept = true; }
 
   private:
     UndoRecord& record() { return text_.record; }

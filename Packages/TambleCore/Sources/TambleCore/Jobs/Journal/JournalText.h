@@ -15,6 +15,10 @@ struct JournalText {
     bool hasBegun = false;
     /// What is known to have been changed.
     UndoRecord record;
+    std::vector<PlannedRename> renames;
+    /// How the renames ended, if they did.
+    bool areAllRenamed = false;
+    bool areAllNamesKept = false;
 
     /// Never throws: lines that are not whole, or no lines of a journal, are left out.
     static JournalText of(std::string_view content);
