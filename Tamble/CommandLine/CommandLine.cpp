@@ -45,6 +45,7 @@ ExitStatus runToolNamed(const std::string& id, std::span<const std::string> word
     const CommandDescription command = toolCommand(tool);
     const ParsedArguments arguments = parseArguments(command, words);
     if (arguments.has("help")) return printPage(toolPage(*ToolCatalog::withID(id), tool));
+    if (isRenaming(tool)) return renameFiles(tool, command, arguments);
     return runTool(tool, command, arguments);
 }
 

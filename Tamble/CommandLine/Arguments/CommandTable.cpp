@@ -3,10 +3,13 @@
 #include <Tamble/CommandLine/Arguments/SettingsArguments.h>
 
 #include <TambleCore/Catalog/ToolCatalog.h>
+#include <TambleCore/Rename/RenamePanel.h>
 #include <TambleCore/Support/Wording.h>
 
 #include <algorithm>
 #include <iterator>
+
+#include <fmt/format.h>
 
 namespace tamble {
 namespace {
@@ -26,6 +29,11 @@ CommandOption subfoldersOption() {
 CommandOption listedOption() {
     return {
         .name = "null", .letter = '0', .help = "Read more paths from standard input, each ended by a NUL"};
+}
+
+std::string wayHelp(RenameWay way, std::string_view more) {
+    const RenameWayText text = textOf(way);
+    return fmt::format("{}: {}{}", localized(text.label), localized(text.description), more);
 }
 
 std::vector<CommandDescription> buildCommands() {
@@ -51,7 +59,8 @@ std::vector<CommandDescription> buildCommands() {
                      helpOption()}},
         {.name = "undo",
          .operands = "[ID]",
-         .summary = "Remove the new files of a job and put the originals back; the newest job without an ID",
+         .summary = "Remove the new files of a job and put the originals or old names back; the newest job without an "
+                    "ID",
          .options = {jsonOption(), helpOption()}},
         {.name = "completion",
          .operands = "SHELL",
@@ -106,6 +115,19 @@ std::span<const CommandOption> runningOptions() {
     return options;
 }
 
+bool isRenaming(const ToolDefinition& tool) {
+    return std::holds_alternative<std::unique_ptr<FileRenamer>>(tool.makeWork(tool.defaults, {}));
+}
+
+std::span<const CommandOption> renamingOptions() {
+    static const std::vector<CommandOption> options{
+        {.name = "keep", .help = "Keep the current names (default), for what the other options change"},
+        {.name = "in-place", .help = wayHelp(RenameWay::inPlace, " All or none; the default.")},
+        {.name = "copies", .help = wayHelp(RenameWay::copies, "")},
+    };
+    return options;
+}
+
 CommandDescription toolCommand(const ToolDefinition& tool) {
     CommandDescription command{.name = tool.id,
                                .operands = "PATH…",
@@ -115,6 +137,7 @@ CommandDescription toolCommand(const ToolDefinition& tool) {
         command.summary = localized(info->title) + ": " + localized(info->subtitle);
     }
     std::ranges::copy(passwordOptions(tool.password), std::back_inserter(command.options));
+    if (isRenaming(tool)) std::ranges::copy(renamingOptions(), std::back_inserter(command.options));
     std::ranges::copy(savingOptions(), std::back_inserter(command.options));
     std::ranges::copy(runningOptions(), std::back_inserter(command.options));
     return command;

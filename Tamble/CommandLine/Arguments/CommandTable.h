@@ -18,6 +18,11 @@ const CommandDescription* commandNamed(std::string_view name);
 std::span<const CommandOption> savingOptions();
 std::span<const CommandOption> runningOptions();
 
+/// Whether the tool gives files new names, and makes new files only where copies are asked for.
+bool isRenaming(const ToolDefinition& tool);
+/// The options that only such a tool has, beside its settings.
+std::span<const CommandOption> renamingOptions();
+
 /// A tool as a command: its settings, then the options of every tool.
 CommandDescription toolCommand(const ToolDefinition& tool);
 /// The command `estimate` for one tool, with the settings that it takes.

@@ -1,6 +1,7 @@
 #include <Tamble/CommandLine/Arguments/SettingsArguments.h>
 #include <Tamble/CommandLine/Arguments/UsageError.h>
 
+#include <TambleCore/Support/Text.h>
 #include <TambleCore/Support/Wording.h>
 
 #include <filesystem>
@@ -179,7 +180,10 @@ std::string flagsFor(const SettingsSchema& schema, const Json& changes) {
 
 std::string settingText(const Json& value) {
     if (value.is_null()) return "none";
-    if (value.is_string()) return value.get<std::string>();
+    if (value.is_string()) {
+        auto text = value.get<std::string>();
+        return trimmed(text).empty() ? fmt::format("\"{}\"", text) : text;
+    }
     if (!value.is_object() || value.size() != 1) return writeJson(value);
     const auto chosen = value.begin();
     const bool hasPayload = chosen->is_object() && chosen->contains("_0");

@@ -19,7 +19,8 @@ Json settingsFrom(const ToolDefinition& tool, const ParsedArguments& arguments);
 /// How such changes of the settings are typed, as "--to webp --no-remove-location".
 std::string flagsFor(const SettingsSchema& schema, const Json& changes);
 
-/// How a setting's value is typed: the inverse of settingValue().
+/// How a setting's value is typed: the inverse of settingValue(). In quotes where a shell needs them to see
+/// the text at all.
 std::string settingText(const Json& value);
 
 }  // namespace tamble

@@ -22,6 +22,10 @@ ExitStatus estimateOutput(std::span<const std::string> words);
 ExitStatus runTool(const ToolDefinition& tool, const CommandDescription& command,
                    const ParsedArguments& arguments);
 
+/// Gives files new names in place or makes renamed copies, or shows what it would do.
+ExitStatus renameFiles(const ToolDefinition& tool, const CommandDescription& command,
+                       const ParsedArguments& arguments);
+
 /// The tool of that id. Throws UsageError when there is none, naming the nearest, and when it cannot run
 /// here.
 const ToolDefinition& requiredTool(std::string_view id);

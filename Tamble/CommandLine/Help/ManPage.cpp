@@ -82,8 +82,11 @@ std::string toolText(const ToolInfo& info) {
 
 std::string settingsText(const ToolInfo& info) {
     const ToolDefinition& tool = *ToolCatalog::definition(info.id);
-    return fmt::format(".PP\n.I All settings of {}\n{}{}", escaped(info.id), body(settingsSection(tool)),
-                       body(optionSection({}, passwordOptions(tool.password))));
+    std::string text =
+        fmt::format(".PP\n.I All settings of {}\n{}{}", escaped(info.id), body(settingsSection(tool)),
+                    body(optionSection({}, passwordOptions(tool.password))));
+    if (isRenaming(tool)) text += body(optionSection({}, renamingOptions()));
+    return text;
 }
 
 }  // namespace

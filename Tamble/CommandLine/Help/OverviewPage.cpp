@@ -91,6 +91,7 @@ HelpSection examplesSection() {
                         {"tamble pdf.merge cover.pdf scan*.jpg report.pdf --name Report",
                          "One PDF of PDFs and photos"},
                         {"tamble pdf.extractPages report.pdf --take 1-3,5", "Some pages as a new PDF"},
+                        {"tamble files.rename Goa/ --text Goa --numbering after", "Numbered names; -n shows them"},
                         {"tamble undo", "Take the last job back"}}};
 }
 

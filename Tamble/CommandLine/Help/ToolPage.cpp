@@ -68,7 +68,8 @@ std::string defaultText(const ToolDefinition& tool, const CommandOption& option)
         if (field.flag() != option.name) continue;
         const Json value = tool.defaults.value(field.name, Json());
         if (field.type.kind == SettingKind::boolean) return value == Json(true) ? "on" : "";
-        return value.is_null() || value.is_array() ? "" : settingText(value);
+        const bool isNothing = value.is_null() || value.is_array() || value == Json("");
+        return isNothing ? "" : settingText(value);
     }
     return {};
 }
@@ -112,7 +113,11 @@ HelpPage toolPage(const ToolInfo& info, const ToolDefinition& tool) {
     page.sections.push_back(settingsSection(tool));
     if (tool.password != PasswordUse::none)
         page.sections.push_back(optionSection("The password", passwordOptions(tool.password)));
-    page.sections.push_back(optionSection("Where new files go", savingOptions()));
+    if (isRenaming(tool)) {
+        page.sections.push_back(optionSection("The files or copies of them", renamingOptions()));
+    }
+    page.sections.push_back(
+        optionSection(isRenaming(tool) ? "Where copies go" : "Where new files go", savingOptions()));
     page.sections.push_back(optionSection("The job", runningOptions()));
     return page;
 }

@@ -6,6 +6,7 @@
 #include <TambleCore/Catalog/ToolCatalog.h>
 #include <TambleCore/Images/ImageJobSettings.h>
 
+#include <iomanip>
 #include <set>
 #include <sstream>
 
@@ -128,7 +129,9 @@ TEST(SettingsArguments, EveryChoiceOfEveryPanelCanBeTypedAsHelpShowsIt) {
             choices.insert(choices.end(), section.moreChoices.begin(), section.moreChoices.end());
             for (const auto& choice : choices) {
                 std::istringstream words(flagsFor(definition->schema, choice.changes));
-                const Words typed{std::istream_iterator<std::string>(words), {}};
+                Words typed;
+                // As a shell reads them.
+                for (std::string word; words >> std::quoted(word);) typed.push_back(word);
                 EXPECT_EQ(
                     settingsFrom(*definition, parsed(info.id, typed)),
                     definition->normalized(definition->schema.merged(definition->defaults, choice.changes)))

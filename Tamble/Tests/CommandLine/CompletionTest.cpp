@@ -37,6 +37,9 @@ TEST(Completion, BashAnswersWords) {
     EXPECT_EQ(bashAnswers(home, "tamble image.convert --output convert:we"), "webp");
     EXPECT_EQ(bashAnswers(home, "tamble image.convert --save "), "next replace");
     EXPECT_EQ(bashAnswers(home, "tamble image.convert b"), "");
+    EXPECT_EQ(bashAnswers(home, "tamble files.rename --num"), "--numbering");
+    EXPECT_EQ(bashAnswers(home, "tamble files.rename --letter-case t"), "title");
+    EXPECT_EQ(bashAnswers(home, "tamble files.rename --in"), "--in-place");
     EXPECT_EQ(bashAnswers(home, "tamble estimate image.conv"), "image.convert");
     EXPECT_EQ(bashAnswers(home, "tamble estimate image.convert --to we"), "webp");
 }
@@ -75,7 +78,8 @@ TEST(ManPage, HasNoFaultAndNamesEveryOption) {
     EXPECT_EQ(run.errors, "");
     EXPECT_THAT(run.output,
                 AllOf(HasSubstr("tamble undo [ID]"), HasSubstr("--to webp"), HasSubstr("EXIT STATUS"),
-                      HasSubstr("--save next|replace|DIR"), HasSubstr("image.removeBackground")));
+                      HasSubstr("--save next|replace|DIR"), HasSubstr("image.removeBackground"),
+                      HasSubstr("--letter-case unchanged|lower|upper|title"), HasSubstr("--in-place")));
 }
 
 }  // namespace

@@ -38,6 +38,10 @@ TEST(Usage, WrongWordsEndWithTwoASentenceAndNothingOnStandardOutput) {
         {{"image.convert", "-0"}, "no paths on standard input"},
         {{"estimate"}, "estimate needs a tool first"},
         {{"completion", "zhs"}, "Did you mean zsh?"},
+        {{"files.rename", "a.bmp", "--copies", "--in-place"}, "exclude each other"},
+        {{"files.rename", "a.bmp", "--clash", "skip"}, "--clash is for copies: add --copies."},
+        {{"files.rename", "a.bmp", "--copies", "--save", "replace"}, "--save replace is --in-place"},
+        {{"files.rename", "a.bmp", "--digits", "21"}, "must be between 1 and 20"},
         {{"undo", "NOSUCHID"}, "There is no job “NOSUCHID”"},
         {{"scan", "no\x1b[31m\nname"}, "no\\u{1B}[31m\\nname"},
     };
@@ -58,7 +62,8 @@ TEST(Usage, HelpFitsItsWidthAndNamesWhatThereIs) {
     EXPECT_EQ(overview.status, 0);
     EXPECT_EQ(overview.output, home.tamble({"--help"}).output);
     EXPECT_EQ(home.tamble({"image.convert", "--help"}).output, home.tamble({"help", "image.convert"}).output);
-    for (const std::string topic : {"tools", "scan", "estimate", "image.convert", "image.removeMetadata"}) {
+    for (const std::string topic :
+         {"tools", "scan", "estimate", "image.convert", "image.removeMetadata", "files.rename"}) {
         for (const int width : {50, 80, 200}) {
             const Finished run =
                 home.shell("COLUMNS=" + std::to_string(width) + " " TAMBLE_PROGRAM " " + topic + " --help");
@@ -98,7 +103,8 @@ TEST(Usage, ToolsListsTheWholeCatalog) {
     EXPECT_EQ(tools[17]["id"], "video.audio");
     EXPECT_EQ(tools[18]["subtitle"], "Saved straight to your computer");
     EXPECT_EQ(tools[38]["id"], "files.rename");
-    EXPECT_FALSE(tools[38]["unavailableReason"].get<std::string>().empty());
+    EXPECT_EQ(tools[38]["isAvailable"], true);
+    EXPECT_FALSE(tools[6]["unavailableReason"].get<std::string>().empty());
 }
 
 TEST(Usage, OutputThatCannotBeWrittenIsAFailure) {

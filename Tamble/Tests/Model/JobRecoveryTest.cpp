@@ -3,8 +3,9 @@
 #include <TambleCore/Jobs/CopyThroughProcessor.h>
 #include <TambleCore/Jobs/Journal/JournalFile.h>
 #include <TambleCore/Platform/SystemFileOperations.h>
+#include <TambleCore/Rename/Renamer.h>
 
-#include <TambleCoreTests/TestFolder.h>
+#include <TambleCoreTests/Jobs/KillingFileOperations.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -19,6 +20,16 @@ class Recovery : public testing::Test {
     std::vector<RecoveredJob> recover() {
         ActivityStore store(JobEngine{.fileOps = fileOps});
         return recoverInterruptedJobs(store, *fileOps);
+    }
+    /// Renames in a process that dies at that move, and answers whether it did.
+    bool renameAndDie(int call) const {
+        return KillingFileOperations::kill(
+            call, KillingFileOperations::When::after, [&](const auto& killing) {
+                const auto journal =
+                    std::make_shared<JournalFile>(journalFolder(), startedJob("files.rename", files));
+                const JobEngine engine{.fileOps = killing, .journal = journal};
+                Renamer({.find = "a", .replaceWith = "x"}).renameInPlace(files, engine, {}, {});
+            });
     }
     std::size_t entriesInLog() const {
         ActivityStore store(JobEngine{.fileOps = fileOps});
@@ -67,6 +78,43 @@ TEST_F(Recovery, AJobThatIsInTheLogAlreadyComesNoSecondTime) {
     EXPECT_TRUE(recover().empty());
     EXPECT_EQ(entriesInLog(), 1U);
     EXPECT_EQ(namesIn(journalFolder()), "");
+}
+
+TEST_F(Recovery, FilesThatWereBeingRenamedGetTheirOldNamesBack) {
+    files.push_back({.url = folder.write("ba", "old too"), .root = folder.files()});
+    const auto before = snapshot(folder.files());
+    ASSERT_TRUE(renameAndDie(1));
+    EXPECT_NE(snapshot(folder.files()), before);
+    const auto jobs = recover();
+    ASSERT_EQ(jobs.size(), 1U);
+    EXPECT_EQ(jobs[0].outcome, RecoveredJob::Outcome::namesPutBack);
+    EXPECT_EQ(snapshot(folder.files()), before);
+    EXPECT_EQ(entriesInLog(), 0U);
+    EXPECT_EQ(namesIn(journalFolder()), "");
+
+    ASSERT_TRUE(renameAndDie(2));
+    const auto renamed = recover();
+    ASSERT_EQ(renamed.size(), 1U);
+    EXPECT_EQ(renamed[0].outcome, RecoveredJob::Outcome::logged);
+    EXPECT_EQ(std::tuple(renamed[0].entry.doneCount, namesIn(folder.files())), std::tuple(2, "bx|x.png"));
+    ActivityStore store(JobEngine{.fileOps = fileOps});
+    store.load();
+    EXPECT_EQ(store.undo(renamed[0].entry.id), (UndoReport{.restoredItems = 2}));
+    EXPECT_EQ(snapshot(folder.files()), before);
+}
+
+TEST_F(Recovery, AnOldNameThatIsTakenByNowIsTriedAgain) {
+    files.push_back({.url = folder.write("ba", "old too"), .root = folder.files()});
+    ASSERT_TRUE(renameAndDie(1));
+    folder.write("a.png", "somebody else's");
+    const auto jobs = recover();
+    ASSERT_EQ(jobs.size(), 1U);
+    EXPECT_EQ(jobs[0].outcome, RecoveredJob::Outcome::namesNotBack);
+    EXPECT_EQ(jobs[0].stranded, std::vector<FilePath>{folder.files() / "x.png"});
+    EXPECT_EQ(contentOf(folder.files() / "a.png"), "somebody else's");
+    std::filesystem::remove(folder.files() / "a.png");
+    EXPECT_EQ(recover().at(0).outcome, RecoveredJob::Outcome::namesPutBack);
+    EXPECT_EQ(contentOf(folder.files() / "a.png"), "old");
 }
 
 TEST_F(Recovery, WhatIsNoJournalHarmsNothing) {

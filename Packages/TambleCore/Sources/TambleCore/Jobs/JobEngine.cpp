@@ -2,6 +2,7 @@
 #include <TambleCore/Jobs/JobEngine.h>
 #include <TambleCore/Jobs/SavingPhase.h>
 #include <TambleCore/Platform/SystemError.h>
+#include <TambleCore/Support/Failure.h>
 #include <TambleCore/Support/Log.h>
 #include <TambleCore/Support/PathKey.h>
 
@@ -96,6 +97,8 @@ template <typename Answer>
 PlannedOutcome plannedOutcome(const Answer& answer) {
     try {
         return answer();
+    } catch (const Failure& failure) {
+        return outcome::Failed{{.code = failure.code(), .detail = failure.sentence()}};
     } catch (const std::exception& error) {
         return outcome::Failed{{.code = "unexpected", .detail = causeOf(error)}};
     }

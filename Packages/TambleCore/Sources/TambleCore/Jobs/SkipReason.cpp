@@ -10,6 +10,7 @@ struct Sentences {
     std::string operator()(const skip::NameTaken&) const { return "There is already a file with this name"; }
     std::string operator()(const skip::NotSmaller&) const { return "The new file wouldn't be smaller"; }
     std::string operator()(const skip::NoPassword&) const { return "This PDF doesn't have a password"; }
+    std::string operator()(const skip::SameName&) const { return "This file already has its new name"; }
 };
 
 }  // namespace

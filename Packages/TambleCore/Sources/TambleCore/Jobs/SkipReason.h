@@ -34,9 +34,16 @@ struct NoPassword {
     friend bool operator==(const NoPassword&, const NoPassword&) = default;
 };
 BOOST_DESCRIBE_STRUCT(NoPassword, (), ())
+/// A file that is to be renamed has its new name already.
+struct SameName {
+    static constexpr std::string_view caseName = "sameName";
+    friend bool operator==(const SameName&, const SameName&) = default;
+};
+BOOST_DESCRIBE_STRUCT(SameName, (), ())
 }  // namespace skip
 
-using SkipReason = std::variant<skip::AlreadyInFormat, skip::NameTaken, skip::NotSmaller, skip::NoPassword>;
+using SkipReason =
+    std::variant<skip::AlreadyInFormat, skip::NameTaken, skip::NotSmaller, skip::NoPassword, skip::SameName>;
 
 /// The reason as people read it.
 std::string sentence(const SkipReason& reason);

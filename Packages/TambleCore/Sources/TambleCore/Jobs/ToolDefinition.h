@@ -2,6 +2,7 @@
 
 #include <TambleCore/Intake/FolderScanner.h>
 #include <TambleCore/Jobs/FileProcessor.h>
+#include <TambleCore/Jobs/FileRenamer.h>
 #include <TambleCore/Jobs/Secrets.h>
 #include <TambleCore/Support/Failure.h>
 #include <TambleCore/Support/Json/JsonCoding.h>
@@ -13,8 +14,9 @@
 
 namespace tamble {
 
-/// What a tool makes of its settings: one output per input, or one of all.
-using ToolWork = std::variant<std::unique_ptr<FileProcessor>, std::unique_ptr<FileCombiner>>;
+/// What a tool makes of its settings: one output per input, one of all, or new names.
+using ToolWork =
+    std::variant<std::unique_ptr<FileProcessor>, std::unique_ptr<FileCombiner>, std::unique_ptr<FileRenamer>>;
 
 /// What a tool does with the password among the Secrets.
 enum class PasswordUse {

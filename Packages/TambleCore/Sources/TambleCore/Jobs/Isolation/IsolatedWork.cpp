@@ -123,6 +123,11 @@ ToolWork wrapped(std::unique_ptr<FileCombiner> inner, Isolation isolation) {
     return std::make_unique<IsolatedCombiner>(std::move(inner), std::move(isolation));
 }
 
+/// It reads no file's content.
+ToolWork wrapped(std::unique_ptr<FileRenamer> inner, const Isolation&) {
+    return inner;
+}
+
 }  // namespace
 
 ToolWork isolatedWork(const ToolDefinition& tool, const Json& settings, const Secrets& secrets,
