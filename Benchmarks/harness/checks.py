@@ -19,6 +19,18 @@ def file_count(folder: Path) -> int:
     return sum(1 for _ in _files(folder))
 
 
+def link_files(folder: Path, into: Path) -> None:
+    for name in os.listdir(folder):
+        os.link(folder / name, into / name)
+
+
+def names(folder: Path) -> str:
+    """How many files, under which names, with which contents."""
+    found = sorted((path.name, path.read_bytes().hex()) for path in _files(folder))
+    digest = hashlib.sha256(json.dumps(found).encode()).hexdigest()[:6]
+    return f"{len(found)} files, names {digest}"
+
+
 def _exiftool(folder: Path, *tags: str) -> list:
     if not programs.is_installed("exiftool"):
         return []

@@ -25,6 +25,7 @@ KNOWN = {
         Program("exiftool", "exiftool", ("-ver",), "libimage-exiftool-perl"),
         Program("exiv2", "exiv2", ("--version",), "exiv2"),
         Program("fd", "fdfind", ("--version",), "fd-find"),
+        Program("mmv", "mmv", ("--help",), "mmv"),
         Program("node", "node", ("--version",), "nodejs"),
         Program("python3", "python3", ("--version",), "python3"),
         Program("qpdf", "qpdf", ("--version",), "qpdf"),
@@ -56,6 +57,8 @@ def version_of(name: str) -> str:
         return subprocess.run(
             [path_of("node"), "--input-type=module", "-e", script], cwd=BENCHMARKS, capture_output=True, text=True, check=False
         ).stdout.strip()
+    if name == "mmv":  # It does not tell by itself.
+        return first_line(["dpkg-query", "-W", "-f", "${Version}", KNOWN[name].debian_package])
     return first_line([path_of(name), *KNOWN[name].version_arguments])
 
 

@@ -33,6 +33,7 @@ class Inputs:
     photographs: Path
     many_files: Path
     small_files: Path
+    camera_files: Path
     tamble: Path
     bench: Path
     # Folders of PDFs, by what is done with them.
@@ -63,6 +64,8 @@ class Row:
     # Short work is repeated more often.
     repetitions: int = 1
     makes_many_files: bool = False
+    # Fills the output folder before each run, for work that is done in place.
+    prepare: Callable[[Inputs, Path], None] | None = None
 
 
 def bash(*parts) -> str:
@@ -226,6 +229,44 @@ COPY = Row(
 )
 
 
+def _rename_script(output: Path, pattern: str) -> list:
+    return [programs.path_of("python3"), str(programs.BENCHMARKS / "peers" / "rename.py"), str(output), pattern]
+
+
+RENAME = Row(
+    "rename",
+    "5,000 files renamed in place, and back",
+    (
+        Contender(
+            OURS,
+            (),
+            lambda inputs, output: bash(
+                inputs.tamble, "files.rename", output, ["--text", "Goa trip", "--numbering", "after", "--digits", "4"],
+                "&&", inputs.tamble, "undo",
+            ),
+        ),
+        Contender(
+            "mmv",
+            ("mmv",),
+            lambda inputs, output: bash(
+                "cd", output, "&&", ["mmv", "IMG_*.jpg", "Goa trip #1.jpg"], "&&", ["mmv", "Goa trip *.jpg", "IMG_#1.jpg"]
+            ),
+        ),
+        Contender(
+            "Python os.rename",
+            ("python3",),
+            lambda inputs, output: bash(
+                _rename_script(output, "Goa trip %04d.jpg"), "&&", _rename_script(output, "IMG_%04d.jpg")
+            ),
+        ),
+    ),
+    prepare=lambda inputs, output: checks.link_files(inputs.camera_files, output),
+    made=lambda inputs, output, log: checks.names(output),
+    wanted={"Python os.rename": 1.5},
+    repetitions=3,
+)  # fmt: skip
+
+
 def _start(key: str, argument: str) -> Row:
     return Row(
         key,
@@ -239,4 +280,4 @@ def _start(key: str, argument: str) -> Row:
     )
 
 
-ALL = (WEBP, RESIZE, HIDDEN, LOCATION, SCAN, COPY, _start("tools", "tools"), _start("help", "--help"))
+ALL = (WEBP, RESIZE, HIDDEN, LOCATION, SCAN, COPY, RENAME, _start("tools", "tools"), _start("help", "--help"))

@@ -63,6 +63,9 @@ def run_row(row, inputs, warm_folder: Path | None, runs: int, work: Path, say) -
 
     def run(contender, how):
         home, output = places.new()
+        if row.prepare:
+            row.prepare(inputs, output)
+            os.sync()
         result = how(_command(contender, inputs, output), _environment(home), log)
         if contender.name not in made:
             made[contender.name] = row.made(inputs, output, log)

@@ -5,6 +5,20 @@ import shutil
 from pathlib import Path
 
 
+def camera(cache: Path, files: int) -> Path:
+    """One folder of small files, numbered as cameras do."""
+    root = cache / f"camera-{files}"
+    if root.is_dir():
+        return root
+    unfinished = root.with_name(root.name + ".unfinished")
+    shutil.rmtree(unfinished, ignore_errors=True)
+    unfinished.mkdir(parents=True)
+    for number in range(1, files + 1):
+        (unfinished / f"IMG_{number:04}.jpg").write_bytes(b"%d" % number)
+    unfinished.rename(root)
+    return root
+
+
 def tree(cache: Path, folders: int, files_each: int, largest: int) -> Path:
     """`folders` folders of `files_each` files of up to `largest` bytes, with the names cameras and people give."""
     root = cache / f"tree-{folders}x{files_each}-{largest}"
