@@ -47,8 +47,7 @@ std::vector<FilePath> strandedOf(const RenameMoves& back) {
 /// A job that died while it renamed in place: none of its files is to be left behind under a new name.
 RecoveredJob withOldNames(InterruptedJob interrupted, const std::filesystem::path& journal,
                           FileOperations& fileOps) {
-    RenameMoves back =
-        RenameMoves::resumed(reversed(std::move(interrupted.unfinishedRenames)), fileOps);
+    RenameMoves back = RenameMoves::resumed(reversed(std::move(interrupted.unfinishedRenames)), fileOps);
     back.run(RenameMoves::AfterProblem::goOn);
     RecoveredJob recovered{.entry = activityEntry(interrupted.job, {}, endOf(journal)),
                            .outcome = RecoveredJob::Outcome::namesPutBack,

@@ -10,9 +10,9 @@ std::filesystem::path journalFolder();
 /// What became of a job during which its program died.
 struct RecoveredJob {
     enum class Outcome {
-        logged,         ///< it is in the activity log, from where it can be undone
-        namesPutBack,   ///< its files have their old names again, and nothing is left of it
-        namesNotBack,   ///< not all could be given their old names back; the next start tries it again
+        logged,        ///< it is in the activity log, from where it can be undone
+        namesPutBack,  ///< its files have their old names again, and nothing is left of it
+        namesNotBack,  ///< not all could be given their old names back; the next start tries it again
     };
 
     ActivityEntry entry;
@@ -26,6 +26,6 @@ struct RecoveredJob {
 /// these jobs, the oldest first. Loads the store when there is any. Never throws; what does not work now is
 /// tried again at the next start.
 std::vector<RecoveredJob> recoverInterruptedJobs(ActivityStore& store, FileOperations& fileOps,
-                                                  const std::filesystem::path& folder = journalFolder());
+                                                 const std::filesystem::path& folder = journalFolder());
 
 }  // namespace tamble

@@ -15,8 +15,8 @@ class UndoMarks {
     explicit UndoMarks(const std::filesystem::path& activityFile);
 
     bool contain(const std::string& id) const { return ids_.contains(id); }
-    /// `wayBack`: how files get their old names. A mark that cannot be written is logged, and no reason not to
-    /// undo.
+    /// `wayBack`: how files get their old names. A mark that cannot be written is logged, and no reason not
+    /// to undo.
     void add(const std::string& id, std::span<const PlannedRename> wayBack);
     /// As it was added with the mark. Empty when there is none, or none that can be read.
     std::vector<PlannedRename> wayBack(const std::string& id) const;

@@ -59,7 +59,8 @@ std::vector<CommandDescription> buildCommands() {
                      helpOption()}},
         {.name = "undo",
          .operands = "[ID]",
-         .summary = "Remove the new files of a job and put the originals or old names back; the newest job without an "
+         .summary = "Remove the new files of a job and put the originals or old names back; the newest job "
+                    "without an "
                     "ID",
          .options = {jsonOption(), helpOption()}},
         {.name = "completion",

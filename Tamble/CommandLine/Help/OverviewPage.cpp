@@ -85,14 +85,15 @@ HelpSection environmentSection() {
 }
 
 HelpSection examplesSection() {
-    return {.heading = "Examples",
-            .entries = {{"tamble image.convert --to webp Photos/", "WebP copies next to the originals"},
-                        {"tamble image.resize --size 1280 *.jpg --save small", "Smaller copies in a folder"},
-                        {"tamble pdf.merge cover.pdf scan*.jpg report.pdf --name Report",
-                         "One PDF of PDFs and photos"},
-                        {"tamble pdf.extractPages report.pdf --take 1-3,5", "Some pages as a new PDF"},
-                        {"tamble files.rename Goa/ --text Goa --numbering after", "Numbered names; -n shows them"},
-                        {"tamble undo", "Take the last job back"}}};
+    return {
+        .heading = "Examples",
+        .entries = {
+            {"tamble image.convert --to webp Photos/", "WebP copies next to the originals"},
+            {"tamble image.resize --size 1280 *.jpg --save small", "Smaller copies in a folder"},
+            {"tamble pdf.merge cover.pdf scan*.jpg report.pdf --name Report", "One PDF of PDFs and photos"},
+            {"tamble pdf.extractPages report.pdf --take 1-3,5", "Some pages as a new PDF"},
+            {"tamble files.rename Goa/ --text Goa --numbering after", "Numbered names; -n shows them"},
+            {"tamble undo", "Take the last job back"}}};
 }
 
 }  // namespace tamble
