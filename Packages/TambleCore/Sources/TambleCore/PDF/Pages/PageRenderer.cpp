@@ -150,6 +150,7 @@ const FileDescriptor& PageRenderer::rewritten() const {
         QPDFWriter writer(document_.qpdf());
         writer.setOutputFile("memory", stream, true);
         writer.setDecodeLevel(qpdf_dl_none);
+        writer.setCompressStreams(false);
         writer.setPreserveEncryption(false);
         writer.write();
     } catch (const std::runtime_error& error) {

@@ -141,7 +141,9 @@ void save(const Document& document, const std::filesystem::path& destination, co
           double from, const WriterSetup& setup) {
     try {
         QPDFWriter writer(document.qpdf(), destination.c_str());
+        // As they are: a stream that was deflated twice can inflate to anything.
         writer.setDecodeLevel(qpdf_dl_none);
+        writer.setCompressStreams(false);
         writer.setObjectStreamMode(qpdf_o_generate);
         writer.registerProgressReporter(
             std::make_shared<QPDFWriter::FunctionProgressReporter>([&](int percent) {
