@@ -7,7 +7,7 @@ namespace tamble {
 namespace {
 
 /// In the order of the cases.
-constexpr std::array<std::string_view, 14> sentences{
+constexpr std::array<std::string_view, 15> sentences{
     "Couldn't open this file. It may be damaged, or not the kind of file this tool works with.",
     "This PDF has a password. Type it in and try again.",
     "That password didn't open this PDF.",
@@ -22,6 +22,7 @@ constexpr std::array<std::string_view, 14> sentences{
     "Couldn't read the signature picture.",
     "Draw or choose a signature first.",
     "The signature doesn't fit on its page.",
+    "Say which pages first, like 1-3, 5.",
 };
 
 }  // namespace

@@ -24,10 +24,12 @@ class PDFError : public Failure {
         signatureUnreadable,
         signatureMissing,
         signatureOffPage,
+        pagesMissing,
     };
     BOOST_DESCRIBE_NESTED_ENUM(Case, unreadable, locked, wrongPassword, passwordMissing, invalidPageRange,
                                noPages, writeFailed, couldNotRemovePassword, imageUnreadable, pageFailed,
-                               pageTooLarge, signatureUnreadable, signatureMissing, signatureOffPage)
+                               pageTooLarge, signatureUnreadable, signatureMissing, signatureOffPage,
+                               pagesMissing)
 
     /// `detail` is what the library said, for the log.
     explicit PDFError(Case which, std::string detail = {});

@@ -9,9 +9,9 @@ namespace {
 /// The editor's list, or what was typed.
 std::vector<PageEdit> wantedPages(PDFTool tool, const PDFJobSettings& settings, int pageCount) {
     if (settings.pages) return *settings.pages;
-    const std::string typed = settings.pageList.value_or("");
-    if (tool == PDFTool::deletePages) return pagesWithout(typed, pageCount);
-    return pageOrder(typed, pageCount);
+    if (!settings.pageList) throw PDFError(PDFError::Case::pagesMissing);
+    if (tool == PDFTool::deletePages) return pagesWithout(*settings.pageList, pageCount);
+    return pageOrder(*settings.pageList, pageCount);
 }
 
 }  // namespace
