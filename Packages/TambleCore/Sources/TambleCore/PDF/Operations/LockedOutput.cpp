@@ -5,11 +5,10 @@
 
 namespace tamble::pdf {
 
-void writeLocked(const std::filesystem::path& destination, const std::string& password,
-                 const WorkContext& context, const std::function<void(const std::filesystem::path&)>& write) {
-    const std::filesystem::path open = destination.parent_path() / newUUID();
-    write(open);
-    save(Document::open(open, {}), destination, {.stop = context.stop}, 0,
+void lock(const std::filesystem::path& file, const std::string& password, const WorkContext& context) {
+    const std::filesystem::path open = file.parent_path() / newUUID();
+    std::filesystem::rename(file, open);
+    save(Document::openUnseen(open, {}), file, {.stop = context.stop}, 0,
          [&](QPDFWriter& writer) { encrypt(writer, password); });
     std::filesystem::remove(open);
 }

@@ -43,14 +43,8 @@ class Splitting {
         for (std::size_t i = next_++; i < groups_.size(); i = next_++) {
             work_.context.throwIfStopped();
             const auto file = work_.destination / pieceName(stem_, i, groups_.size(), groups_[i]);
-            const auto write = [&](const std::filesystem::path& place) {
-                maker.write(groups_[i], place, work_.context.stop);
-            };
-            if (document.isLocked()) {
-                writeLocked(file, work_.settings.password, work_.context, write);
-            } else {
-                write(file);
-            }
+            maker.write(groups_[i], file, work_.context.stop);
+            if (document.isLocked()) lock(file, work_.settings.password, work_.context);
             work_.context.report(static_cast<double>(++written_) / static_cast<double>(groups_.size()));
         }
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <TambleCore/PDF/Structure/Assembly/AssemblyPart.h>
+#include <TambleCore/PDF/Structure/Assembly/PartQueue.h>
 #include <TambleCore/PDF/Structure/Carrying/Frame.h>
 #include <TambleCore/PDF/Structure/PageLabels.h>
 
@@ -15,38 +15,44 @@ namespace tamble::pdf {
 /// whole stands in a frame document; the parts' objects go into the new file as they are.
 class Assembly {
   public:
-    /// Parts are used until writeTo() returns. There is at least one.
-    explicit Assembly(std::vector<std::unique_ptr<AssemblyPart>> parts);
+    /// Of so many parts, at least one, which `open` makes; it is called by several threads, and throws what
+    /// writeTo() then throws.
+    Assembly(std::size_t partCount, PartQueue::Open open);
 
-    /// Writes a new file; the parts are read side by side. Reports `from` … 1 of the work. Throws
+    /// Writes a new file, once; several parts are read side by side, and closed when they are written. Throws
     /// PDFError::writeFailed; Cancelled.
-    void writeTo(const std::filesystem::path& destination, const WorkContext& context, double from);
+    void writeTo(const std::filesystem::path& destination, const WorkContext& context);
 
   private:
     /// In the frame: a copy of a value of a part, whose objects are taken along.
     QPDFObjectHandle inFrame(AssemblyPart& part, QPDFObjectHandle value);
     QPDFObjectHandle contentInFrame(AssemblyPart& part, QPDFObjectHandle object);
 
-    void addPart(FileWriter& writer, AssemblyPart& part);
+    void reserveNumbers(FileWriter& writer);
+    void addPart(FileWriter& writer, AssemblyPart& part, std::size_t index);
     void addNamedPlaces(AssemblyPart& part);
     void addFields(AssemblyPart& part);
     void addLabels(AssemblyPart& part);
     void addAttachments(AssemblyPart& part);
     void addLayers(AssemblyPart& part);
     void addTags(AssemblyPart& part);
-    void joinBookmarks();
+    void addBookmarks();
     void finishFrame();
-    std::string version() const;
 
-    std::vector<std::unique_ptr<AssemblyPart>> parts_;
+    std::size_t partCount_;
+    PartQueue::Open open_;
     Frame frame_;
     int pagesNumber_ = 0;
     int bookmarksNumber_ = 0;
+    /// Those of the parts' bookmarks follow one another.
+    int firstBookmarkNumber_ = 0;
     int taggedPartsNumber_ = 0;
     QPDFObjectHandle bookmarks_;
     /// The tree of tags and its one branch, which holds those of the parts.
     QPDFObjectHandle tags_;
     QPDFObjectHandle taggedParts_;
+    /// The highest of the parts.
+    std::string version_;
     int pageCount_ = 0;
     int tagCount_ = 0;
     std::map<std::string, QPDFObjectHandle> namedPlaces_;

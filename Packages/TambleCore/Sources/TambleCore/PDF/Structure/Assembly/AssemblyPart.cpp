@@ -1,5 +1,6 @@
 #include <TambleCore/PDF/Structure/Assembly/AssemblyPart.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace tamble::pdf {
@@ -8,18 +9,13 @@ namespace {
 /// For the parents of the pages, the bookmarks and the tags, two neighbours, and a table of tags.
 constexpr int standInCount = 6;
 
-QPDFObjectHandle indirect(QPDF& qpdf, QPDFObjectHandle parent, const std::string& key) {
-    auto object = parent.getKey(key);
-    if (object.isIndirect()) return object;
-    auto made = qpdf.makeIndirectObject(object);
-    parent.replaceKey(key, made);
-    return made;
-}
-
-QPDFObjectHandle rootOfBookmarks(QPDF& qpdf, QPDFObjectHandle root) {
-    if (!root.getKey("/Outlines").isDictionary())
-        root.replaceKey("/Outlines", QPDFObjectHandle::newDictionary());
-    return indirect(qpdf, root, "/Outlines");
+int firstFreeNumber(const Document& document) {
+    int highest = 0;
+    const auto places = document.qpdf().getXRefTable();
+    if (!places.empty()) highest = places.rbegin()->first.getObj();
+    // Pages that were no objects of their own have become some.
+    for (const auto& page : document.pages()) highest = std::max(highest, page.getObjectID());
+    return highest + 1;
 }
 
 }  // namespace
@@ -28,12 +24,28 @@ AssemblyPart::AssemblyPart(Document document, std::string title)
     : document_(std::move(document)),
       title_(std::move(title)),
       destinations_(document_),
-      pages_(indirect(document_.qpdf(), document_.root(), "/Pages")),
-      bookmark_(rootOfBookmarks(document_.qpdf(), document_.root())) {
+      numberCount_(firstFreeNumber(document_)),
+      pages_(indirect(document_.root(), "/Pages")),
+      bookmark_(indirect(document_.root(), "/Outlines")) {
     pages_.replaceKey("/Count", QPDFObjectHandle::newInteger(document_.pageCount()));
-    for (int i = 0; i < standInCount; ++i)
-        // Not null: a key with nothing is no key.
-        standIns_.push_back(document_.qpdf().makeIndirectObject(QPDFObjectHandle::newDictionary()));
+    // Not null: a key with nothing is no key.
+    for (int i = 0; i < standInCount; ++i) standIns_.push_back(newObject(QPDFObjectHandle::newDictionary()));
+}
+
+/// The library's own way to make an object reads the whole document first.
+QPDFObjectHandle AssemblyPart::newObject(QPDFObjectHandle object) {
+    const QPDFObjGen number(numberCount_++, 0);
+    document_.qpdf().replaceObject(number, object);
+    return document_.qpdf().getObject(number);
+}
+
+/// The dictionary under the key, as an object of its own.
+QPDFObjectHandle AssemblyPart::indirect(QPDFObjectHandle parent, const std::string& key) {
+    auto object = parent.getKey(key);
+    if (object.isIndirect() && object.isDictionary()) return object;
+    auto made = newObject(object.isDictionary() ? object : QPDFObjectHandle::newDictionary());
+    parent.replaceKey(key, made);
+    return made;
 }
 
 QPDFObjectHandle AssemblyPart::reference(int number) {
@@ -50,7 +62,8 @@ QPDFObjectHandle AssemblyPart::keep(QPDFObjectHandle object) {
     return document_.qpdf().getObject(kept.getObjGen());
 }
 
-void AssemblyPart::hangInto(int pagesNumber, int bookmarksNumber) {
+void AssemblyPart::hangInto(int pagesNumber, int bookmarksNumber, int bookmarkNumber) {
+    numbers_.given.emplace(bookmark_.getObjectID(), bookmarkNumber);
     pages_.replaceKey("/Parent", reference(pagesNumber));
     bookmark_.removeKey("/Type");
     bookmark_.replaceKey("/Title", QPDFObjectHandle::newUnicodeString(title_));

@@ -20,13 +20,14 @@ class AssemblyPart {
     QPDFObjectHandle bookmark() const { return bookmark_; }
 
     /// How many numbers its objects take. The functions below may be called once they are given.
-    int numberCount() const { return static_cast<int>(document_.qpdf().getObjectCount()) + 1; }
+    int numberCount() const noexcept { return numberCount_; }
     void setFirstNumber(int first) { numbers_.base = first; }
     void setTagOffset(std::int64_t offset) { numbers_.tagOffset = offset; }
     int numberOf(QPDFObjectHandle object) const { return numbers_.numberOf(object.getObjectID()); }
 
-    /// Makes the keys of these objects refer to objects of the new file, by their numbers.
-    void hangInto(int pagesNumber, int bookmarksNumber);
+    /// Makes its pages and its bookmark refer to their parents in the new file; the bookmark gets a number of
+    /// its own.
+    void hangInto(int pagesNumber, int bookmarksNumber, int bookmarkNumber);
     void setNeighbours(std::optional<int> previous, std::optional<int> next);
     /// An object that refers to one of the new file: a stand-in, of which there are as many as were asked for
     /// before numberCount().
@@ -47,9 +48,14 @@ class AssemblyPart {
     CarriedObjects objects(const std::stop_token& stop) const;
 
   private:
+    QPDFObjectHandle newObject(QPDFObjectHandle object);
+    QPDFObjectHandle indirect(QPDFObjectHandle parent, const std::string& key);
+
     Document document_;
     std::string title_;
     Destinations destinations_;
+    /// One more than the highest number of its objects.
+    int numberCount_;
     QPDFObjectHandle pages_;
     QPDFObjectHandle bookmark_;
     std::vector<QPDFObjectHandle> standIns_;
