@@ -30,7 +30,8 @@ NormalizedRect rectOf(std::string_view text) {
         const auto comma = text.find(',');
         const bool isLast = i + 1 == shares.size();
         const auto percent = numberOf<double>(text.substr(0, comma));
-        if (!percent || *percent < 0 || *percent > 100 || isLast != (comma == std::string_view::npos)) {
+        const bool isShare = percent && *percent >= 0 && *percent <= 100;
+        if (!isShare || isLast != (comma == std::string_view::npos)) {
             throw SettingError("The place is written as four percentages, as in 60,80,30,10.");
         }
         shares[i] = *percent / 100;

@@ -2,7 +2,8 @@
 #include <TambleCore/PDF/PDFEngine.h>
 #include <TambleCore/PDF/PDFError.h>
 
-#include <qpdf/QPDFExc.hh>
+#include <filesystem>
+#include <stdexcept>
 
 namespace tamble::pdf {
 namespace {
@@ -12,7 +13,11 @@ template <typename Work>
 void readable(const Work& work) {
     try {
         work();
-    } catch (const QPDFExc& error) {
+    } catch (const std::filesystem::filesystem_error& error) {
+        throw PDFError(PDFError::Case::writeFailed, error.what());
+    } catch (const std::runtime_error& error) {
+        throw PDFError(PDFError::Case::unreadable, error.what());
+    } catch (const std::logic_error& error) {
         throw PDFError(PDFError::Case::unreadable, error.what());
     }
 }

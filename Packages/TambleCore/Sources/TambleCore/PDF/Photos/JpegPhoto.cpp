@@ -94,13 +94,21 @@ int componentsOf(ByteView profile) {
     return asText(*space) == "CMYK" ? 4 : 0;
 }
 
+/// Readers of PDFs show what there is of a picture that was cut off.
+bool hasEnd(ByteView file, const jpeg::Layout& layout) {
+    const auto end = asText(file).rfind("\xFF\xD9");
+    const auto scan = static_cast<std::size_t>(layout.segments.back().whole.data() - file.data());
+    return end != std::string_view::npos && end > scan;
+}
+
 }  // namespace
 
 std::optional<Photo> jpegPhoto(std::shared_ptr<MappedFile> file) {
     const auto layout = jpeg::layout(file->bytes(), jpeg::Extent::untilFirstScan);
     const auto frame = layout ? frameOf(*layout) : std::nullopt;
     constexpr int samplePrecision = 8;
-    if (!frame || frame->precision != samplePrecision || frame->width == 0 || frame->height == 0)
+    if (!frame || frame->precision != samplePrecision || frame->width == 0 || frame->height == 0 ||
+        !hasEnd(file->bytes(), *layout))
         return std::nullopt;
     Photo photo{
         .width = frame->width, .height = frame->height, .coding = "/BitsPerComponent 8 /Filter /DCTDecode "};

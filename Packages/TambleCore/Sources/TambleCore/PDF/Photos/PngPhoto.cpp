@@ -1,8 +1,10 @@
+#include <TambleCore/Images/Codec/PictureLimits.h>
 #include <TambleCore/Images/Metadata/Containers/PngChunks.h>
 #include <TambleCore/PDF/Photos/Photo.h>
 #include <TambleCore/PDF/Structure/Deflate.h>
 
 #include <algorithm>
+#include <bit>
 
 #include <libdeflate.h>
 
@@ -20,6 +22,21 @@ struct Header {
     static constexpr std::uint8_t palette = 3;
     bool hasAlpha() const { return colourType == 4 || colourType == 6; }
     int colours() const { return colourType == 2 || colourType == 6 ? 3 : 1; }
+
+    /// Of all rows, each with its filter in front.
+    std::size_t size() const {
+        const std::size_t bits = static_cast<std::size_t>(colours() + (hasAlpha() ? 1 : 0)) * depth;
+        return ((width * bits + 7) / 8 + 1) * height;
+    }
+
+    /// Whether there are such pictures (ISO 15948, table 11.1), of no more pixels than any has.
+    bool isSound() const {
+        const bool isDepth = std::has_single_bit(depth) && depth <= 16;
+        const bool isCoarse = depth < 8;
+        const bool isKind = colourType == 0 || (colourType == palette && depth <= 8) ||
+                            ((colourType == 2 || hasAlpha()) && !isCoarse);
+        return isDepth && isKind && width > 0 && height > 0 && height <= mostPixels / width;
+    }
 };
 
 std::optional<Header> headerOf(const png::Layout& layout) {
@@ -89,18 +106,12 @@ Planes separated(const std::string& rows, const Header& header) {
     return planes;
 }
 
-/// Empty when the data are not what the header says.
-bool separateAlpha(Photo& photo, const Header& header, std::string_view data) {
-    const std::size_t pixel = (static_cast<std::size_t>(header.colours()) + 1) * header.depth / 8U;
-    const std::size_t size = (header.width * pixel + 1) * header.height;
-    const auto rows = inflated(data, size);
-    if (!rows) return false;
+void separateAlpha(Photo& photo, const Header& header, const std::string& rows) {
     constexpr int level = 6;
-    const Planes planes = separated(*rows, header);
+    const Planes planes = separated(rows, header);
     photo.bytes = deflated(planes.colours, level);
     photo.alpha = deflated(planes.alpha, level);
     photo.alphaCoding = coding(header.depth, 1, header.width);
-    return true;
 }
 
 void takeResolution(Photo& photo, const png::Chunk& chunk) {
@@ -122,22 +133,27 @@ std::string hexadecimal(ByteView bytes) {
 std::optional<Photo> pngPhoto(std::shared_ptr<MappedFile> file) {
     const auto layout = png::layout(file->bytes());
     const auto header = layout ? headerOf(*layout) : std::nullopt;
-    if (!header || header->interlace != 0 || header->width == 0 || header->height == 0) return std::nullopt;
+    if (!header || header->interlace != 0 || !header->isSound()) return std::nullopt;
     const png::Chunk* palette = chunkOf(*layout, "PLTE");
     const bool isIndexed = header->colourType == Header::palette;
     // A palette or a single colour that is see-through has no like in a PDF.
     if (chunkOf(*layout, "tRNS") != nullptr || chunkOf(*layout, "acTL") != nullptr) return std::nullopt;
-    if (isIndexed && (palette == nullptr || palette->data.size() < 3)) return std::nullopt;
-    if (header->hasAlpha() && header->depth < 8) return std::nullopt;
+    constexpr std::size_t longestPalette = 3 * 256;
+    if (isIndexed && (palette == nullptr || palette->data.empty() || palette->data.size() % 3 != 0 ||
+                      palette->data.size() > longestPalette))
+        return std::nullopt;
+    std::string data = codedData(*layout);
+    // Readers of PDFs show what there is of damaged data, so a look before.
+    const auto rows = inflated(data, header->size());
+    if (!rows) return std::nullopt;
     Photo photo{.width = static_cast<int>(header->width),
                 .height = static_cast<int>(header->height),
                 .coding = coding(header->depth, header->colours(), header->width),
                 .colours = header->colours() == 3 ? "/DeviceRGB" : "/DeviceGray"};
-    std::string data = codedData(*layout);
-    if (!header->hasAlpha()) {
+    if (header->hasAlpha()) {
+        separateAlpha(photo, *header, *rows);
+    } else {
         photo.bytes = std::move(data);
-    } else if (!separateAlpha(photo, *header, data)) {
-        return std::nullopt;
     }
     photo.data = {};
     if (isIndexed) {

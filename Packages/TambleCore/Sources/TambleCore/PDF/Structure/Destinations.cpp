@@ -1,17 +1,10 @@
-#include <TambleCore/PDF/Structure/Destinations.h>
+#include <TambleCore/PDF/Structure/Bookmarks.h>
+#include <TambleCore/PDF/Structure/ObjectSet.h>
 
-#include <qpdf/QPDFNameTreeObjectHelper.hh>
+#include <utility>
 
 namespace tamble::pdf {
 namespace {
-
-/// The array of a destination that names a page by reference; empty for anything else.
-std::optional<QPDFObjectHandle> explicitPlace(QPDFObjectHandle destination) {
-    if (destination.isDictionary()) destination = destination.getKey("/D");
-    if (!destination.isArray() || destination.getArrayNItems() == 0) return std::nullopt;
-    if (!destination.getArrayItem(0).isPageObject()) return std::nullopt;
-    return destination;
-}
 
 QPDFObjectHandle goToAction(QPDFObjectHandle link) {
     auto action = link.getKey("/A");
@@ -30,12 +23,6 @@ QPDFObjectHandle limits(QPDFObjectHandle first, QPDFObjectHandle last) {
 /// hundred times as long.
 QPDFObjectHandle nameTree(QPDF& qpdf, const std::map<std::string, QPDFObjectHandle>& named) {
     constexpr int leafSize = 64;
-    // Readers look names up by their stored bytes, which sort otherwise than the same texts in UTF-8.
-    std::map<std::string, QPDFObjectHandle> sorted;
-    for (const auto& [name, object] : named) {
-        auto key = QPDFObjectHandle::newUnicodeString(name);
-        sorted.emplace(key.getStringValue(), object);
-    }
     auto leaves = QPDFObjectHandle::newArray();
     auto entries = QPDFObjectHandle::newArray();
     const auto closeLeaf = [&] {
@@ -47,8 +34,8 @@ QPDFObjectHandle nameTree(QPDF& qpdf, const std::map<std::string, QPDFObjectHand
         leaves.appendItem(qpdf.makeIndirectObject(leaf));
         entries = QPDFObjectHandle::newArray();
     };
-    for (const auto& [key, object] : sorted) {
-        entries.appendItem(QPDFObjectHandle::newString(key));
+    for (const auto& [name, object] : named) {
+        entries.appendItem(QPDFObjectHandle::newString(name));
         entries.appendItem(object);
         if (entries.getArrayNItems() == 2 * leafSize) closeLeaf();
     }
@@ -58,28 +45,70 @@ QPDFObjectHandle nameTree(QPDF& qpdf, const std::map<std::string, QPDFObjectHand
     return qpdf.makeIndirectObject(tree);
 }
 
+/// Whether nothing but the document's older table or the order of its pages tells where it leads.
+bool isOlder(QPDFObjectHandle destination) {
+    if (destination.isDictionary()) destination = destination.getKey("/D");
+    return destination.isName() || (destination.isArray() && destination.getArrayNItems() > 0 &&
+                                    destination.getArrayItem(0).isInteger());
+}
+
+QPDFObjectHandle destinationOf(QPDFObjectHandle link) {
+    return link.hasKey("/Dest") ? link.getKey("/Dest") : goToAction(link).getKey("/D");
+}
+
 }  // namespace
 
-Destinations::Destinations(const Document& document) {
-    const auto add = [this](const std::string& name, QPDFObjectHandle destination) {
-        if (const auto found = explicitPlace(destination)) named_.emplace(name, *found);
-    };
+Destinations::Destinations(const Document& document) : pages_(document.pages()) {
     auto table = document.root().getKey("/Dests");
     if (table.isDictionary()) {
-        for (auto& [name, destination] : table.getDictAsMap()) add(name.substr(1), destination);
+        for (auto& [name, destination] : table.getDictAsMap()) {
+            if (const auto found = explicitPlace(destination)) olderNamed_.emplace(name, *found);
+        }
     }
     auto names = document.root().getKey("/Names");
-    if (!names.isDictionary() || !names.getKey("/Dests").isDictionary()) return;
-    for (auto& [name, destination] :
-         QPDFNameTreeObjectHelper(names.getKey("/Dests"), document.qpdf()).getAsMap())
-        add(name, destination);
+    if (names.isDictionary()) addNames(names.getKey("/Dests"));
+}
+
+/// The library's own reading of such trees compares texts, of which different bytes can be the same.
+void Destinations::addNames(QPDFObjectHandle tree) {
+    ObjectSet seen;
+    std::vector<QPDFObjectHandle> waiting{tree};
+    while (!waiting.empty()) {
+        auto node = waiting.back();
+        waiting.pop_back();
+        if (!node.isDictionary() || !seen.insert(node)) continue;
+        if (auto kids = node.getKey("/Kids"); kids.isArray()) {
+            for (const auto& kid : kids.getArrayAsVector()) waiting.push_back(kid);
+        }
+        auto names = node.getKey("/Names");
+        if (!names.isArray()) continue;
+        const auto entries = names.getArrayAsVector();
+        for (std::size_t i = 0; i + 1 < entries.size(); i += 2) {
+            auto name = entries[i];
+            const auto found = explicitPlace(entries[i + 1]);
+            if (name.isString() && found) named_.emplace(name.getStringValue(), *found);
+        }
+    }
+}
+
+std::optional<QPDFObjectHandle> Destinations::explicitPlace(QPDFObjectHandle destination) const {
+    if (destination.isDictionary()) destination = destination.getKey("/D");
+    if (!destination.isArray() || destination.getArrayNItems() == 0) return std::nullopt;
+    auto page = destination.getArrayItem(0);
+    if (page.isPageObject()) return destination;
+    if (!page.isInteger() || page.getIntValue() < 0 || !std::cmp_less(page.getIntValue(), pages_.size()))
+        return std::nullopt;
+    auto place = destination.shallowCopy();
+    place.setArrayItem(0, pages_[static_cast<std::size_t>(page.getIntValue())]);
+    return place;
 }
 
 std::optional<QPDFObjectHandle> Destinations::place(QPDFObjectHandle destination) const {
     if (!destination.isName() && !destination.isString()) return explicitPlace(destination);
+    const auto& names = destination.isName() ? olderNamed_ : named_;
     const auto found =
-        named_.find(destination.isName() ? destination.getName().substr(1) : destination.getUTF8Value());
-    if (found == named_.end()) return std::nullopt;
+        names.find(destination.isName() ? destination.getName() : destination.getStringValue());
+    if (found == names.end()) return std::nullopt;
     return found->second;
 }
 
@@ -97,6 +126,15 @@ void setPlace(QPDFObjectHandle link, const std::optional<QPDFObjectHandle>& plac
     if (!goToAction(link).isNull()) link.removeKey("/A");
     link.removeKey("/Dest");
     if (place) link.replaceKey("/Dest", *place);
+}
+
+void makePlacesExplicit(const Document& document, const Destinations& destinations, Naming naming) {
+    const auto make = [&](QPDFObjectHandle link) {
+        if (leadsInside(link) && (naming == Naming::any || isOlder(destinationOf(link))))
+            setPlace(link, destinations.placeOf(link));
+    };
+    for (const auto& page : document.pages()) forEachLink(page, make);
+    forEachBookmark(document, make);
 }
 
 void forEachLink(QPDFObjectHandle page, const std::function<void(QPDFObjectHandle)>& visit) {
@@ -120,7 +158,6 @@ void setNames(const Document& document, const std::string& table,
 }
 
 void setNamedDestinations(const Document& document, const std::map<std::string, QPDFObjectHandle>& named) {
-    document.root().removeKey("/Dests");
     setNames(document, "/Dests", named);
 }
 

@@ -158,6 +158,9 @@ void save(const Document& document, const std::filesystem::path& destination, co
         throw;
     } catch (const PDFError&) {
         throw;
+    } catch (const QPDFExc& error) {
+        // What is written is read only now.
+        throw PDFError(PDFError::Case::unreadable, error.what());
     } catch (const std::exception& error) {
         throw PDFError(PDFError::Case::writeFailed, error.what());
     }

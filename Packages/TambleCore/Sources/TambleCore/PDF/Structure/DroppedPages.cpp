@@ -4,14 +4,29 @@
 namespace tamble::pdf {
 namespace {
 
-ObjectSet annotationsOf(const std::vector<QPDFObjectHandle>& pages) {
-    ObjectSet found;
+void forEachAnnotation(const std::vector<QPDFObjectHandle>& pages,
+                       const std::function<void(const QPDFObjectHandle&)>& visit) {
     for (auto page : pages) {
         auto annotations = page.getKey("/Annots");
         if (!annotations.isArray()) continue;
-        for (const auto& annotation : annotations.getArrayAsVector()) found.insert(annotation);
+        for (const auto& annotation : annotations.getArrayAsVector()) visit(annotation);
     }
-    return found;
+}
+
+/// The annotations of the pages that are on none of those that stay.
+ObjectSet annotationsLost(const Document& document, const std::vector<QPDFObjectHandle>& pages) {
+    ObjectSet left;
+    forEachAnnotation(document.pages(), [&](const QPDFObjectHandle& annotation) { left.insert(annotation); });
+    ObjectSet lost;
+    forEachAnnotation(pages, [&](const QPDFObjectHandle& annotation) {
+        if (!left.contains(annotation)) lost.insert(annotation);
+    });
+    return lost;
+}
+
+/// Whatever refers to it finds nothing.
+void erase(const Document& document, const QPDFObjectHandle& object) {
+    if (object.isIndirect()) document.qpdf().replaceObject(object.getObjGen(), QPDFObjectHandle::newNull());
 }
 
 /// Bookmarks, links, names and the page to open first.
@@ -35,6 +50,12 @@ void dropPlaces(const Document& document, const ObjectSet& dropped) {
         }) > 0) {
         setNamedDestinations(document, named);
     }
+    if (auto older = document.root().getKey("/Dests"); older.isDictionary()) {
+        for (const auto& name : older.getKeys()) {
+            auto place = destinations.place(QPDFObjectHandle::newName(name));
+            if (place && !isLeft(place->getArrayItem(0))) older.removeKey(name);
+        }
+    }
     auto opening = document.root().getKey("/OpenAction");
     auto place = destinations.place(opening);
     if (opening.isDictionary() && !place) place = destinations.place(opening.getKey("/D"));
@@ -49,12 +70,15 @@ void dropPages(const Document& document, const std::vector<QPDFObjectHandle>& pa
     for (const auto& page : pages) dropped.insert(page);
     dropPlaces(document, dropped);
     dropTags(document, dropped);
-    dropFields(document, annotationsOf(pages));
+    const ObjectSet lost = annotationsLost(document, pages);
+    dropFields(document, lost);
     // Articles run from page to page.
     document.root().removeKey("/Threads");
     for (auto page : document.pages()) page.removeKey("/B");
-    for (const auto& page : pages)
-        document.qpdf().replaceObject(page.getObjGen(), QPDFObjectHandle::newNull());
+    forEachAnnotation(pages, [&](const QPDFObjectHandle& annotation) {
+        if (lost.contains(annotation)) erase(document, annotation);
+    });
+    for (const auto& page : pages) erase(document, page);
 }
 
 }  // namespace tamble::pdf

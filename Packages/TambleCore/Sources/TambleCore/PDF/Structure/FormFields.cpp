@@ -5,13 +5,18 @@ namespace {
 
 class FieldPruning {
   public:
-    explicit FieldPruning(const ObjectSet& widgets) : widgets_(widgets) {}
+    FieldPruning(QPDF& qpdf, const ObjectSet& widgets) : qpdf_(qpdf), widgets_(widgets) {}
 
     /// The fields of the list that are left.
     QPDFObjectHandle left(QPDFObjectHandle fields, int depth) {
         auto left = QPDFObjectHandle::newArray();
         for (auto& field : fields.getArrayAsVector()) {
-            if (stays(field, depth)) left.appendItem(field);
+            if (stays(field, depth)) {
+                left.appendItem(field);
+            } else if (field.isIndirect()) {
+                // The order of calculation and buttons name fields, too.
+                qpdf_.replaceObject(field.getObjGen(), QPDFObjectHandle::newNull());
+            }
         }
         return left;
     }
@@ -30,6 +35,7 @@ class FieldPruning {
         return true;
     }
 
+    QPDF& qpdf_;
     const ObjectSet& widgets_;
     ObjectSet seen_;
 };
@@ -39,17 +45,21 @@ class FieldPruning {
 void dropFields(const Document& document, const ObjectSet& widgets) {
     auto form = document.root().getKey("/AcroForm");
     if (widgets.empty() || !form.isDictionary() || !form.getKey("/Fields").isArray()) return;
-    auto left = FieldPruning(widgets).left(form.getKey("/Fields"), 0);
+    auto left = FieldPruning(document.qpdf(), widgets).left(form.getKey("/Fields"), 0);
     if (left.getArrayNItems() == 0) {
         document.root().removeKey("/AcroForm");
         return;
     }
-    const bool anyGone = left.getArrayNItems() != form.getKey("/Fields").getArrayNItems();
     form.replaceKey("/Fields", left);
-    // The other description of the same form would still have them, and calculations run in an order of
-    // fields.
+    // The other description of the same form would still have them.
     form.removeKey("/XFA");
-    if (anyGone) form.removeKey("/CO");
+    auto order = form.getKey("/CO");
+    if (!order.isArray()) return;
+    auto orderLeft = QPDFObjectHandle::newArray();
+    for (auto& field : order.getArrayAsVector()) {
+        if (field.isDictionary()) orderLeft.appendItem(field);
+    }
+    form.replaceKey("/CO", orderLeft);
 }
 
 }  // namespace tamble::pdf

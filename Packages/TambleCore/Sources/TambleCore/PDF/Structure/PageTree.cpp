@@ -56,6 +56,7 @@ void setPages(const Document& document, std::span<const PageEdit> edits) {
     requireFitting(edits, document.pageCount());
     QPDFPageDocumentHelper(document.qpdf()).pushInheritedAttributesToPage();
     const std::vector<QPDFObjectHandle> before = document.pages();
+    makePlacesExplicit(document, Destinations(document), Naming::older);
     SharedResources shared(before);
     const auto labels = labelsInOrder(document, edits);
     NewPages wanted(document);

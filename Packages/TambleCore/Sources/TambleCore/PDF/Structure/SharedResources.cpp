@@ -14,9 +14,8 @@ std::array<QPDFObjectHandle, 3> listsOf(QPDFObjectHandle page) {
     return {resources, resources.getKey("/XObject"), resources.getKey("/Font")};
 }
 
-/// A list of one is hardly of others' things.
-bool isLong(QPDFObjectHandle list) {
-    return list.isDictionary() && list.getKeys().size() > 1;
+bool hasMoreThan(std::size_t count, QPDFObjectHandle list) {
+    return list.isDictionary() && list.getKeys().size() > count;
 }
 
 }  // namespace
@@ -33,7 +32,8 @@ SharedResources::SharedResources(const std::vector<QPDFObjectHandle>& pages) {
 void SharedResources::separate(QPDFObjectHandle page) {
     if (shared_.empty() || !separated_.insert(page)) return;
     const auto [resources, pictures, fonts] = listsOf(page);
-    if (!resources.isInitialized() || (!isLong(pictures) && !isLong(fonts))) return;
+    // A single font is hardly another page's; a single picture may be.
+    if (!resources.isInitialized() || (!hasMoreThan(0, pictures) && !hasMoreThan(1, fonts))) return;
     const bool isShared =
         shared_.contains(resources) || shared_.contains(pictures) || shared_.contains(fonts);
     if (isShared) QPDFPageObjectHelper(page).removeUnreferencedResources();

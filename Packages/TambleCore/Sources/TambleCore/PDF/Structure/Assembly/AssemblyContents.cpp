@@ -44,7 +44,8 @@ void Assembly::addNamedPlaces(AssemblyPart& part) {
     const auto& named = part.destinations().named();
     const bool anyTaken =
         std::ranges::any_of(named, [this](const auto& entry) { return namedPlaces_.contains(entry.first); });
-    if (anyTaken) part.resolveNames();
+    // A name that another part has, too, leads there.
+    makePlacesExplicit(part.document(), part.destinations(), anyTaken ? Naming::any : Naming::older);
     for (const auto& [name, place] : named) {
         if (namedPlaces_.contains(name)) continue;
         auto own = place;
@@ -103,7 +104,13 @@ void Assembly::addAttachments(AssemblyPart& part) {
     QPDFEmbeddedFileDocumentHelper files(part.document().qpdf());
     if (!files.hasEmbeddedFiles()) return;
     for (const auto& [name, file] : files.getEmbeddedFiles()) {
-        attachments_.emplace(freeName(name, attachments_), inFrame(part, file->getObjectHandle()));
+        const auto stored = [](const std::string& text) {
+            return QPDFObjectHandle::newUnicodeString(text).getStringValue();
+        };
+        std::string free = name;
+        for (int number = 2; attachments_.contains(stored(free)); ++number)
+            free = fmt::format("{} {}", name, number);
+        attachments_.emplace(stored(free), inFrame(part, file->getObjectHandle()));
     }
 }
 

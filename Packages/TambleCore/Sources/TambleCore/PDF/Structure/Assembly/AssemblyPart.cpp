@@ -84,14 +84,6 @@ void AssemblyPart::setNeighbours(std::optional<int> previous, std::optional<int>
     if (next) bookmark_.replaceKey("/Next", reference(*next));
 }
 
-void AssemblyPart::resolveNames() {
-    const auto resolve = [this](QPDFObjectHandle link) {
-        if (leadsInside(link)) setPlace(link, destinations_.placeOf(link));
-    };
-    for (const auto& page : document_.pages()) forEachLink(page, resolve);
-    forEachBookmark(document_, resolve);
-}
-
 CarriedObjects AssemblyPart::objects(const std::stop_token& stop) const {
     std::vector<QPDFObjectHandle> from{pages_, bookmark_};
     from.insert(from.end(), included_.begin(), included_.end());

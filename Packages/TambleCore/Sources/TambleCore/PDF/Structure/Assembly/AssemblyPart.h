@@ -36,9 +36,6 @@ class AssemblyPart {
     /// The object as an indirect one of the document: takes one of the stand-ins.
     QPDFObjectHandle keep(QPDFObjectHandle object);
 
-    /// Links and bookmarks lead to their places outright, not by names that another part has, too.
-    void resolveNames();
-
     /// Takes along an object that is not reached from its pages, and answers its number.
     int include(QPDFObjectHandle object) {
         included_.push_back(object);

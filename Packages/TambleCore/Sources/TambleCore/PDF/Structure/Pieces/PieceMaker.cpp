@@ -23,18 +23,9 @@ PieceMaker::PieceMaker(const Document& source)
       bookmarks_(bookmarks(source, destinations_)),
       hasLabels_(hasLabels(source)),
       shared_(pagesWithOwnAttributes(source)) {
-    makeLinksExplicit();
+    // Names of places are the whole document's; a piece has only its own pages.
+    makePlacesExplicit(source, destinations_, Naming::any);
     detachPages();
-}
-
-/// Names of places are the whole document's; a piece has only its own pages.
-void PieceMaker::makeLinksExplicit() {
-    if (destinations_.named().empty()) return;
-    for (const auto& page : source_.pages()) {
-        forEachLink(page, [this](QPDFObjectHandle link) {
-            if (leadsInside(link)) setPlace(link, destinations_.placeOf(link));
-        });
-    }
 }
 
 void PieceMaker::detachPages() {

@@ -21,7 +21,6 @@ class PieceMaker {
                const std::stop_token& stop);
 
   private:
-    void makeLinksExplicit();
     void detachPages();
     void dropLinksOut(const std::vector<QPDFObjectHandle>& pages);
 
