@@ -39,8 +39,8 @@ PDFJobSettings settingsFor(std::uint8_t choice) {
     return settings;
 }
 
-/// What was written can be opened, and has pages.
-void checkFile(const fs::path& file, const std::string& password) {
+/// What was written can be opened, and has pages; passwords are changed without a look at these.
+void checkFile(const fs::path& file, const std::string& password, bool hasPages) {
     auto qpdf = QPDF::create();
     qpdf->setSuppressWarnings(true);
     try {
@@ -52,7 +52,7 @@ void checkFile(const fs::path& file, const std::string& password) {
             qpdf->setSuppressWarnings(true);
             qpdf->processFile(file.c_str(), password.c_str());
         }
-        fuzz::require(!qpdf->getAllPages().empty(), "there are pages");
+        if (hasPages) fuzz::require(!qpdf->getAllPages().empty(), "there are pages");
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         fuzz::require(false, "what was written can be opened");
@@ -98,9 +98,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
         if (fs::is_directory(destination)) {
             for (const auto& piece : fs::directory_iterator(destination))
-                checkFile(piece.path(), settings.password);
+                checkFile(piece.path(), settings.password, true);
         } else {
-            checkFile(destination, settings.password);
+            checkFile(destination, settings.password,
+                      tool != PDFTool::addPassword && tool != PDFTool::removePassword);
         }
     } catch (const Failure& failure) {
         // A failure that writing is blamed for is one of our own.

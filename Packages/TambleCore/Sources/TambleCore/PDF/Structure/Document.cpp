@@ -4,6 +4,7 @@
 #include <unordered_set>
 
 #include <qpdf/QPDFExc.hh>
+#include <qpdf/QPDFSystemError.hh>
 #include <qpdf/QUtil.hh>
 
 namespace tamble::pdf {
@@ -158,11 +159,11 @@ void save(const Document& document, const std::filesystem::path& destination, co
         throw;
     } catch (const PDFError&) {
         throw;
-    } catch (const QPDFExc& error) {
+    } catch (const QPDFSystemError& error) {
+        throw PDFError(PDFError::Case::writeFailed, error.what());
+    } catch (const std::exception& error) {
         // What is written is read only now.
         throw PDFError(PDFError::Case::unreadable, error.what());
-    } catch (const std::exception& error) {
-        throw PDFError(PDFError::Case::writeFailed, error.what());
     }
 }
 
