@@ -64,10 +64,7 @@ void PDFCombiner::combine(std::span<const InputFile> files, const std::filesyste
 }
 
 WorkNeeds PDFCombiner::needs() const {
-    // All inputs together may take more than one alone.
-    WorkNeeds needs = boundedNeeds();
-    needs.memory.reset();
-    return needs;
+    return boundedNeeds();
 }
 
 }  // namespace tamble
