@@ -3,7 +3,6 @@
 #include <TambleCore/Jobs/SkipReason.h>
 #include <TambleCore/Support/UUID.h>
 
-#include <regex>
 #include <set>
 
 #include <qpdf/Buffer.hh>
@@ -141,9 +140,11 @@ std::string ReadPDF::order() {
             const auto buffer = content.getStreamData(qpdf_dl_all);
             data.append(reinterpret_cast<const char*>(buffer->getBuffer()), buffer->getSize());
         }
-        std::smatch found;
-        const bool isShown = std::regex_search(data, found, std::regex("Text of page (\\d+)"));
-        order += (order.empty() ? "" : ",") + (isShown ? found[1].str() : "?");
+        constexpr std::string_view words = "Text of page ";
+        const auto found = data.find(words);
+        const std::string number = found == std::string::npos ? "?" : data.substr(found + words.size());
+        if (!order.empty()) order += ',';
+        order += number.substr(0, number.find_first_not_of("?0123456789"));
     }
     return order;
 }
