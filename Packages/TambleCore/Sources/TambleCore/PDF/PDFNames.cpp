@@ -21,9 +21,9 @@ std::string pagesText(std::span<const int> pages) {
 }  // namespace
 
 std::string combinedName(PDFTool tool, const PDFJobSettings& settings, std::span<const InputFile> files) {
-    if (const std::string_view typed = trimmed(settings.outputStem.value_or("")); !typed.empty()) {
-        return fittedName(FileNames::safe(std::string(typed)), pdfExtension);
-    }
+    const std::string asked = settings.outputStem.value_or("");
+    if (const std::string_view typed = trimmed(asked); !typed.empty())
+        return fittedName(FileNames::safe(typed), pdfExtension);
     if (files.empty()) return "Combined.pdf";
     const std::string stem = files.front().url.stem().native();
     if (files.size() == 1) return fittedName(stem, pdfExtension);
