@@ -4,17 +4,10 @@
 namespace tamble {
 namespace {
 
-template <typename Value>
-Json change(const char* member, const Value& value) {
-    Json changes = Json::object();
-    changes[member] = encodeJson(value);
-    return changes;
-}
-
 PanelSection nameSection() {
     return {.heading = "Name of the new PDF",
             .control = PanelControl::text,
-            .choices = {{.label = "Name", .changes = change("outputStem", std::string(panelText))}}};
+            .choices = {{.label = "Name", .changes = settingChange("outputStem", std::string(panelText))}}};
 }
 
 std::vector<PanelSection> splitSections() {
@@ -23,14 +16,14 @@ std::vector<PanelSection> splitSections() {
              .control = PanelControl::cards,
              .choices = {{.label = "Every page on its own",
                           .description = "One PDF per page.",
-                          .changes = change("split", PDFSplitMode(split_mode::EveryPage{}))},
+                          .changes = settingChange("split", PDFSplitMode(split_mode::EveryPage{}))},
                          {.label = fmt::format("Every {} pages", pagesAtOnce),
                           .description = "A new PDF after each group.",
-                          .changes = change("split", PDFSplitMode(split_mode::Every{pagesAtOnce}))}}},
+                          .changes = settingChange("split", PDFSplitMode(split_mode::Every{pagesAtOnce}))}}},
             {.control = PanelControl::text,
              .choices = {{.label = "Page groups",
                           .description = "Each group you type becomes a PDF. For example 1-3, 5, 8-10",
-                          .changes = change("split", PDFSplitMode(split_mode::Ranges{panelText}))}},
+                          .changes = settingChange("split", PDFSplitMode(split_mode::Ranges{panelText}))}},
              .placeholder = "Type the pages to split, like 1-3, 5",
              .note = "The pieces go into a new folder named after the PDF. The original isn't changed."}};
 }
@@ -38,7 +31,8 @@ std::vector<PanelSection> splitSections() {
 PanelSection pagesSection(std::string heading, std::string label, std::string placeholder) {
     return {.heading = std::move(heading),
             .control = PanelControl::text,
-            .choices = {{.label = std::move(label), .changes = change("pageList", std::string(panelText))}},
+            .choices = {{.label = std::move(label),
+                         .changes = settingChange("pageList", std::string(panelText))}},
             .placeholder = std::move(placeholder),
             .note = "At least one page has to stay."};
 }
@@ -49,12 +43,12 @@ std::vector<PanelSection> compressionSections() {
              .choices = {{.label = "Smaller, text stays sharp",
                           .description = "Pictures are re-saved for screens. Text can still be selected and "
                                          "searched. Recommended.",
-                          .changes = change("compression", PDFCompression::balanced)},
+                          .changes = settingChange("compression", PDFCompression::balanced)},
                          {.label = "Smallest",
                           .description =
                               "Every page becomes a picture. Much smaller, but text can't be selected or "
                               "searched.",
-                          .changes = change("compression", PDFCompression::smallest)}},
+                          .changes = settingChange("compression", PDFCompression::smallest)}},
              .note = "PDFs that are already small are left as they are."}};
 }
 
@@ -74,7 +68,7 @@ std::vector<PanelSection> pageShapeSections() {
     const auto shape = [](std::string label, std::string description, PDFPageSize size) {
         return PanelChoice{.label = std::move(label),
                            .description = std::move(description),
-                           .changes = change("pageSize", size)};
+                           .changes = settingChange("pageSize", size)};
     };
     return {{.heading = "Page size",
              .control = PanelControl::cards,
@@ -84,8 +78,8 @@ std::vector<PanelSection> pageShapeSections() {
             {.control = PanelControl::toggle,
              .choices = {{.label = "White border",
                           .description = "A margin around each photo.",
-                          .changes = change("pageMargin", true)},
-                         {.changes = change("pageMargin", false)}}},
+                          .changes = settingChange("pageMargin", true)},
+                         {.changes = settingChange("pageMargin", false)}}},
             nameSection()};
 }
 
@@ -93,7 +87,7 @@ std::vector<PanelSection> pictureSections() {
     const auto format = [](ImageFormat which, std::string description) {
         return PanelChoice{.label = std::string(displayName(which)),
                            .description = std::move(description),
-                           .changes = change("imageFormat", which)};
+                           .changes = settingChange("imageFormat", which)};
     };
     const SettingsSchema schema = pdfSettingsSchema(PDFTool::toImages);
     return {{.heading = "Format of the pictures",
