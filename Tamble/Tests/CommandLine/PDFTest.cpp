@@ -16,20 +16,6 @@ using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 
-/// A document of that many pages; readers find its objects without a table of them.
-std::string document(int pages) {
-    std::ostringstream text;
-    text << "%PDF-1.4\n1 0 obj <</Type/Catalog/Pages 2 0 R>> endobj\n2 0 obj <</Type/Pages/Count " << pages
-         << "/Kids[";
-    for (int page = 0; page < pages; ++page) text << 3 + page << " 0 R ";
-    text << "]>> endobj\n";
-    for (int page = 0; page < pages; ++page)
-        text << 3 + page << " 0 obj <</Type/Page/Parent 2 0 R/MediaBox[0 0 " << 100 + page
-             << " 200]>> endobj\n";
-    text << "trailer <</Root 1 0 R>>\n";
-    return text.str();
-}
-
 /// Every byte that the program keeps for itself.
 std::string kept(const Home& home) {
     std::ostringstream all;
@@ -41,7 +27,7 @@ std::string kept(const Home& home) {
 
 TEST(PDF, ASplitFolderIsPlannedMadeAndTakenBack) {
     const Home home;
-    home.addFile("report.pdf", document(10));
+    home.addFile("report.pdf", pdfDocument(10));
     const auto before = home.contents();
     const Finished dry =
         home.tamble({"pdf.split", "--split", "ranges:1-3,5,8-10", "--dry-run", "report.pdf"});
@@ -61,8 +47,8 @@ TEST(PDF, ASplitFolderIsPlannedMadeAndTakenBack) {
 
 TEST(PDF, PageNumbersThatDoNotFitFailTheirDocumentOnly) {
     const Home home;
-    home.addFile("long.pdf", document(5));
-    home.addFile("short.pdf", document(2));
+    home.addFile("long.pdf", pdfDocument(5));
+    home.addFile("short.pdf", pdfDocument(2));
     const Finished run =
         home.tamble({"pdf.deletePages", "--delete", "2,4-5", "--save", "out", "long.pdf", "short.pdf"});
     EXPECT_EQ(run.status, 1);
@@ -78,7 +64,7 @@ TEST(PDF, PageNumbersThatDoNotFitFailTheirDocumentOnly) {
 
 TEST(PDF, APasswordIsSeenNowhere) {
     const Home home;
-    home.addFile("a.pdf", document(1));
+    home.addFile("a.pdf", pdfDocument(1));
     const std::string password = "correct-horse-battery";
     home.addFile("word", password + "\nsecond line\n");
     std::string arguments;

@@ -14,20 +14,6 @@ using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 
-/// A document of so many pages of 200 × 100 points, without a table of its objects.
-std::string document(int pages) {
-    std::string kids;
-    std::string objects;
-    for (int page = 0; page < pages; ++page) {
-        const std::string number = std::to_string(page + 3);
-        kids += number + " 0 R ";
-        objects += number + " 0 obj\n<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] >>\nendobj\n";
-    }
-    return "%PDF-1.4\n1 0 obj\n<< /Type /Catalog /Pages 2 0 R >>\nendobj\n2 0 obj\n<< /Type /Pages /Kids [" +
-           kids + "] /Count " + std::to_string(pages) + " >>\nendobj\n" + objects +
-           "trailer\n<< /Root 1 0 R >>\n%%EOF\n";
-}
-
 /// A program of that name that is found before the real one as long as this lives.
 class Impostor {
   public:
@@ -46,7 +32,7 @@ class Impostor {
 
 TEST(Pages, BecomePicturesInAFolderAndAreTakenBack) {
     const Home home;
-    home.addFile("report.pdf", document(12));
+    home.addFile("report.pdf", pdfDocument(12));
     const auto before = home.contents();
     const Finished run = home.tamble({"pdf.toImages", "report.pdf", "--to", "png", "--dpi", "72"});
     EXPECT_EQ(run.status, 0) << run.errors;
@@ -58,7 +44,7 @@ TEST(Pages, BecomePicturesInAFolderAndAreTakenBack) {
 
 TEST(Pages, OfALockedDocumentNeedItsPasswordWhichNoProgramIsTold) {
     const Home home;
-    home.addFile("a.pdf", document(2));
+    home.addFile("a.pdf", pdfDocument(2));
     home.addFile("password", "open sesame\n");
     ASSERT_EQ(
         home.tamble({"pdf.addPassword", "a.pdf", "--save", "replace", "--password-file", "password"}).status,
@@ -75,8 +61,8 @@ TEST(Pages, OfALockedDocumentNeedItsPasswordWhichNoProgramIsTold) {
 
 TEST(Pages, ThatCrashTheDrawingProgramFailAloneAndItWritesNowhere) {
     const Home home;
-    home.addFile("one.pdf", document(1));
-    home.addFile("two.pdf", document(2));
+    home.addFile("one.pdf", pdfDocument(1));
+    home.addFile("two.pdf", pdfDocument(2));
     // It dies over documents of two pages.
     const Impostor impostor(home,
                             "touch /proc/self/cwd/mark \"$HOME/mark\" 2>/dev/null\n"
@@ -94,7 +80,7 @@ TEST(Pages, ThatCrashTheDrawingProgramFailAloneAndItWritesNowhere) {
 
 TEST(Pages, ThatHangTheDrawingProgramEndWithTheJob) {
     const Home home;
-    home.addFile("a.pdf", document(1));
+    home.addFile("a.pdf", pdfDocument(1));
     // It cannot write its number down; it is found by the words it was started with.
     const Impostor impostor(home, "exec sleep 98765.4321");
     const auto before = home.contents();

@@ -181,4 +181,17 @@ std::vector<std::pair<std::string, std::string>> Home::contents() const {
     return all;
 }
 
+std::string pdfDocument(int pages) {
+    std::ostringstream text;
+    text << "%PDF-1.4\n1 0 obj <</Type/Catalog/Pages 2 0 R>> endobj\n2 0 obj <</Type/Pages/Count " << pages
+         << "/Kids[";
+    for (int page = 0; page < pages; ++page) text << 3 + page << " 0 R ";
+    text << "]>> endobj\n";
+    for (int page = 0; page < pages; ++page)
+        text << 3 + page << " 0 obj <</Type/Page/Parent 2 0 R/MediaBox[0 0 " << 100 + page
+             << " 200]>> endobj\n";
+    text << "trailer <</Root 1 0 R>>\n";
+    return text.str();
+}
+
 }  // namespace tamble::test

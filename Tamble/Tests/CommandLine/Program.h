@@ -30,10 +30,10 @@ class Home {
 
     /// Runs `tamble` with these words in folder(). `whileRunning` is called once it was started.
     Finished tamble(const std::vector<std::string>& words, const std::string& input = {},
-               const std::function<void(pid_t)>& whileRunning = {}) const;
+                    const std::function<void(pid_t)>& whileRunning = {}) const;
     /// Runs it with standard error on a terminal of so many cells; its output is what the terminal received.
     Finished tambleOnTerminal(const std::vector<std::string>& words, unsigned short cells,
-                         bool noColour = false) const;
+                              bool noColour = false) const;
     /// Runs a shell command in folder().
     Finished shell(const std::string& command) const;
 
@@ -49,5 +49,9 @@ class Home {
     std::filesystem::path work_;
     std::filesystem::path data_;
 };
+
+/// A PDF of that many pages, each a point wider than the one before; readers find its objects without a table
+/// of them.
+std::string pdfDocument(int pages);
 
 }  // namespace tamble::test
