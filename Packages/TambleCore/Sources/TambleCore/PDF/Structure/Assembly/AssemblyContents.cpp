@@ -45,7 +45,7 @@ void Assembly::addNamedPlaces(AssemblyPart& part) {
     const bool anyTaken =
         std::ranges::any_of(named, [this](const auto& entry) { return namedPlaces_.contains(entry.first); });
     // A name that another part has, too, leads there.
-    if (anyTaken) makePlacesExplicit(part.document(), part.destinations(), Naming::any);
+    makePlacesExplicit(part.document(), part.destinations(), anyTaken ? Naming::any : Naming::older);
     for (const auto& [name, place] : named) {
         if (namedPlaces_.contains(name)) continue;
         auto own = place;

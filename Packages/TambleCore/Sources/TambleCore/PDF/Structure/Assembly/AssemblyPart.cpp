@@ -27,8 +27,6 @@ AssemblyPart::AssemblyPart(Document document, std::string title)
       numberCount_(firstFreeNumber(document_)),
       pages_(indirect(document_.root(), "/Pages")),
       bookmark_(indirect(document_.root(), "/Outlines")) {
-    // What holds for the whole document as it is alone; here, where several parts are opened side by side.
-    makePlacesExplicit(document_, destinations_, Naming::older);
     pages_.replaceKey("/Count", QPDFObjectHandle::newInteger(document_.pageCount()));
     // Not null: a key with nothing is no key.
     for (int i = 0; i < standInCount; ++i) standIns_.push_back(newObject(QPDFObjectHandle::newDictionary()));
