@@ -3,10 +3,10 @@
 #include <Tamble/CommandLine/Arguments/SettingsArguments.h>
 #include <Tamble/CommandLine/Arguments/UsageError.h>
 #include <Tamble/CommandLine/Commands/Commands.h>
-#include <Tamble/CommandLine/Commands/Isolation.h>
 #include <Tamble/CommandLine/Help/HelpPages.h>
 #include <Tamble/CommandLine/Report/NothingFound.h>
 #include <Tamble/CommandLine/Text/Amounts.h>
+#include <Tamble/Model/ProtectedWork.h>
 
 #include <iostream>
 
@@ -18,7 +18,8 @@ namespace {
 ExitStatus printEstimate(const ToolDefinition& tool, const ParsedArguments& arguments,
                          const ScanResult& scan) {
     const Json settings = settingsFrom(tool, arguments);
-    const auto bytes = protectedEstimate(tool, scan.files, settings);
+    WorkerPool pool;
+    const auto bytes = protectedEstimate(tool, scan.files, settings, pool, {});
     if (arguments.has("json")) {
         Json json = Json::object();
         json["toolID"] = tool.id;

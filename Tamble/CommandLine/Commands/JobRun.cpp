@@ -2,17 +2,12 @@
 #include <Tamble/CommandLine/Arguments/JobArguments.h>
 #include <Tamble/CommandLine/Commands/InterruptedJobs.h>
 #include <Tamble/CommandLine/Commands/JobRun.h>
+#include <Tamble/CommandLine/Progress/ProgressDisplay.h>
 #include <Tamble/CommandLine/Progress/StopSignals.h>
-#include <Tamble/CommandLine/Progress/WatchedProcessor.h>
 #include <Tamble/CommandLine/Report/JobReport.h>
 #include <Tamble/CommandLine/Report/NothingFound.h>
 #include <Tamble/CommandLine/Report/ResultJson.h>
 #include <Tamble/CommandLine/Text/SafeText.h>
-#include <Tamble/Model/ActivityStore.h>
-#include <Tamble/Model/JobRecovery.h>
-
-#include <TambleCore/Jobs/Journal/JournalFile.h>
-#include <TambleCore/Platform/SystemFileOperations.h>
 
 #include <algorithm>
 #include <iostream>
@@ -30,18 +25,6 @@ void answerSignal(ProgressDisplay& display, std::stop_source& stop) {
     } else if (stop.request_stop()) {
         display.say("Stopping; nothing will be saved.");
     }
-}
-
-bool leftAnything(const JobResult& result) {
-    const auto isDone = [](const ItemResult& item) {
-        return std::holds_alternative<outcome::Done>(item.outcome);
-    };
-    return !result.undo.isEmpty() || std::ranges::any_of(result.items, isDone);
-}
-
-/// Whether the job is in the log for good.
-bool remember(ActivityEntry entry) {
-    return ActivityStore(systemEngine()).add(std::move(entry));
 }
 
 }  // namespace
@@ -67,33 +50,18 @@ ScanResult scannedInputs(const TypedJob& job) {
     return scan;
 }
 
-JobEngine systemEngine(std::shared_ptr<JobJournal> journal) {
-    return {.fileOps = std::make_shared<SystemFileOperations>(), .journal = std::move(journal)};
-}
-
-FinishedJob runAndRemember(const std::string& toolID, std::vector<InputFile> files, const RunJob& run) {
+FinishedJob runAndRemember(JobOrder order) {
     ProgressDisplay display(Terminal::errors());
     std::stop_source stop;
     // A signal is answered until the job is remembered: what was changed must be possible to undo.
     const StopSignals signals([&] { answerSignal(display, stop); });
-    const journal::Job job = startedJob(toolID, files);
-    const auto journal = std::make_shared<JournalFile>(journalFolder(), job);
-    JobResult result = run(systemEngine(journal), std::move(files), display, stop.get_token());
-    const bool hasEntry = leftAnything(result);
-    if (!hasEntry || remember(activityEntry(job, result))) journal->forget();
-    return {.result = std::move(result), .activityID = hasEntry ? job.id : ""};
-}
-
-RunJob runProcessor(const FileProcessor& processor, const JobConfiguration& configuration) {
-    return [&processor, configuration](const JobEngine& engine, std::vector<InputFile> files,
-                                       ProgressDisplay& display, std::stop_token stop) {
-        const WatchedProcessor watched(processor, [&display](const InputFile& file) {
-            display.startedFile(safeText(file.url.filename().native()));
-        });
-        return engine.run(
-            std::move(files), watched, configuration,
-            [&display](const JobProgress& progress) { display.update(progress); }, std::move(stop));
-    };
+    const JobRunner::Watch watch{
+        .onProgress = [&display](const JobProgress& progress) { display.update(progress); },
+        .onStart =
+            [&display](const InputFile& file) {
+                display.startedFile(safeText(file.url.filename().native()));
+            }};
+    return JobRunner(std::make_shared<WorkerPool>()).run(std::move(order), watch, stop.get_token());
 }
 
 ExitStatus reportSaved(const FinishedJob& job, const ScanResult& scan, bool wantsJson) {

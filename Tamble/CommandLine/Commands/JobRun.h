@@ -2,11 +2,9 @@
 
 #include <Tamble/CommandLine/Arguments/ArgumentParser.h>
 #include <Tamble/CommandLine/ExitStatus.h>
-#include <Tamble/CommandLine/Progress/ProgressDisplay.h>
+#include <Tamble/Model/JobRunner.h>
 
 #include <TambleCore/Intake/FolderScanner.h>
-#include <TambleCore/Jobs/JobEngine.h>
-#include <TambleCore/Jobs/ToolDefinition.h>
 
 /// What the commands that run jobs share.
 namespace tamble {
@@ -27,23 +25,9 @@ TypedJob typedJob(const ToolDefinition& tool, const CommandDescription& command,
 /// Looks through the inputs, and says what was left out or why there are none.
 ScanResult scannedInputs(const TypedJob& job);
 
-JobEngine systemEngine(std::shared_ptr<JobJournal> journal = {});
-
-struct FinishedJob {
-    JobResult result;
-    /// Empty when the job left nothing to remember.
-    std::string activityID;
-};
-
-using RunJob = std::function<JobResult(const JobEngine& engine, std::vector<InputFile> files,
-                                       ProgressDisplay& display, std::stop_token stop)>;
-
-/// Runs the job with a journal, and puts it into the activity log. Signals stop it as long as nothing is
-/// changed.
-FinishedJob runAndRemember(const std::string& toolID, std::vector<InputFile> files, const RunJob& run);
-
-/// A tool with one output per input, its files named in the progress.
-RunJob runProcessor(const FileProcessor& processor, const JobConfiguration& configuration);
+/// Runs the job and puts it into the activity log, the file in work named in the progress. Signals stop it as
+/// long as nothing is changed.
+FinishedJob runAndRemember(JobOrder order);
 
 /// Tells what became of a job that made new files.
 ExitStatus reportSaved(const FinishedJob& job, const ScanResult& scan, bool wantsJson);

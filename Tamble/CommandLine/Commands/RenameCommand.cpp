@@ -6,6 +6,7 @@
 #include <Tamble/CommandLine/Report/RenameReport.h>
 #include <Tamble/CommandLine/Report/ResultJson.h>
 #include <Tamble/CommandLine/Text/Amounts.h>
+#include <Tamble/CommandLine/Text/Terminal.h>
 
 #include <algorithm>
 
@@ -88,16 +89,9 @@ void tellRefusal(const FileRenamer& renamer, const JobResult& result, const Json
     }
 }
 
-ExitStatus renameInPlace(const std::string& toolID, const FileRenamer& renamer, const Json& settings,
-                         ScanResult scan, bool wantsJson) {
-    const auto [result, id] = runAndRemember(
-        toolID, std::move(scan.files),
-        [&](const JobEngine& engine, std::vector<InputFile> files, ProgressDisplay& display,
-            std::stop_token stop) {
-            return renamer.renameInPlace(
-                std::move(files), engine,
-                [&display](const JobProgress& progress) { display.update(progress); }, std::move(stop));
-        });
+ExitStatus renameInPlace(const FileRenamer& renamer, JobOrder order, const ScanResult& scan, bool wantsJson) {
+    const Json settings = order.settings;
+    const auto [result, id] = runAndRemember(std::move(order));
     if (isRefused(result)) {
         tellRefusal(renamer, result, settings, wantsJson);
     } else {
@@ -125,12 +119,13 @@ ExitStatus renameFiles(const ToolDefinition& tool, const CommandDescription& com
         adviseNumbers(preview, settings);
         return status;
     }
-    if (way == RenameWay::inPlace) {
-        return renameInPlace(tool.id, renamer, settings, std::move(scan), job.wantsJson);
-    }
-    const auto copier = renamer.copier(scan.files);
-    const FinishedJob finished =
-        runAndRemember(tool.id, std::move(scan.files), runProcessor(*copier, job.configuration));
+    JobOrder order{.tool = &tool,
+                   .settings = settings,
+                   .files = std::move(scan.files),
+                   .configuration = job.configuration,
+                   .renameWay = way};
+    if (way == RenameWay::inPlace) return renameInPlace(renamer, std::move(order), scan, job.wantsJson);
+    const FinishedJob finished = runAndRemember(std::move(order));
     return reportSaved(finished, scan, job.wantsJson);
 }
 

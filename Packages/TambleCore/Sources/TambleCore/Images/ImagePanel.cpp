@@ -124,19 +124,19 @@ PanelSection backgroundNote() {
 OptionsPanel imagePanel(ImageTool tool) {
     switch (tool) {
         case ImageTool::convert:
-            return {{formatSection(), qualitySection()}};
+            return {{formatSection(), qualitySection()}, PanelEditor::comparison};
         case ImageTool::compress:
-            return {{qualitySection(), pngNote()}};
+            return {{qualitySection(), pngNote()}, PanelEditor::comparison};
         case ImageTool::resize:
-            return {resizeSections()};
+            return {resizeSections(), PanelEditor::comparison};
         case ImageTool::rotate:
-            return {{rotationSection()}};
+            return {{rotationSection()}, PanelEditor::comparison};
         case ImageTool::removeMetadata:
-            return {removalSections()};
+            return {removalSections(), PanelEditor::comparison};
         case ImageTool::removeBackground:
             break;
     }
-    return {{backgroundNote()}};
+    return {{backgroundNote()}, PanelEditor::comparison};
 }
 
 }  // namespace tamble

@@ -41,6 +41,9 @@ struct ToolDefinition {
                                               std::stop_token)>
         estimate = {};
     PasswordUse password = PasswordUse::none;
+    /// What has to be chosen before the tool can do anything: the failure that every item would end with;
+    /// nothing when it can start.
+    std::function<std::optional<Failure>(const Json& settings, const Secrets& secrets)> missing = {};
 
     /// `settings` brought into the full form of the record: decoded and encoded once.
     std::function<Json(const Json& settings)> normalized;

@@ -117,15 +117,18 @@ OptionsPanel pdfPanel(PDFTool tool) {
         case PDFTool::split:
             return {splitSections()};
         case PDFTool::organize:
-            return {{pagesSection("The new order", "Pages in their new order", "For example 3, 1, 5-8")}};
+            return {{pagesSection("The new order", "Pages in their new order", "For example 3, 1, 5-8")},
+                    PanelEditor::pageOrder};
         case PDFTool::deletePages:
-            return {{pagesSection("Which pages should go?", "Pages to delete", "For example 2, 4-6")}};
+            return {{pagesSection("Which pages should go?", "Pages to delete", "For example 2, 4-6")},
+                    PanelEditor::pageDeletion};
         case PDFTool::extractPages:
-            return {{pagesSection("Which pages do you want?", "Pages to take out", "For example 1-3, 5")}};
+            return {{pagesSection("Which pages do you want?", "Pages to take out", "For example 1-3, 5")},
+                    PanelEditor::pageSelection};
         case PDFTool::compress:
             return {compressionSections()};
         case PDFTool::sign:
-            return {{signatureNote()}};
+            return {{signatureNote()}, PanelEditor::signature};
         case PDFTool::addPassword:
             return {{passwordSection("Password", "Type a password (at least 4 characters)")}};
         case PDFTool::removePassword:

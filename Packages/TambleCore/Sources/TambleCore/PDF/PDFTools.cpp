@@ -3,6 +3,7 @@
 #include <TambleCore/PDF/PDFPanel.h>
 #include <TambleCore/PDF/PDFProcessor.h>
 #include <TambleCore/PDF/PDFTools.h>
+#include <TambleCore/Support/Text.h>
 
 namespace tamble {
 namespace {
@@ -28,6 +29,34 @@ PasswordUse passwordUse(PDFTool tool) {
     }
 }
 
+/// What a tool cannot start without.
+std::optional<PDFError> missing(PDFTool tool, const PDFJobSettings& settings, const Secrets& secrets) {
+    using enum PDFError::Case;
+    switch (tool) {
+        case PDFTool::organize:
+        case PDFTool::deletePages:
+        case PDFTool::extractPages:
+            if (settings.pages && settings.pages->empty()) return PDFError(noPages);
+            if (!settings.pages && settings.pageList.value_or("").empty()) return PDFError(pagesMissing);
+            return std::nullopt;
+        case PDFTool::split: {
+            const auto* ranges = std::get_if<split_mode::Ranges>(&settings.split);
+            return ranges != nullptr && ranges->value.empty() ? std::optional(PDFError(pagesMissing))
+                                                              : std::nullopt;
+        }
+        case PDFTool::sign:
+            return settings.signatures.empty() ? std::optional(PDFError(signatureMissing)) : std::nullopt;
+        case PDFTool::addPassword:
+            return characterCount(secrets.password) < shortestPassword
+                       ? std::optional(PDFError(passwordMissing))
+                       : std::nullopt;
+        case PDFTool::removePassword:
+            return secrets.password.empty() ? std::optional(PDFError(locked)) : std::nullopt;
+        default:
+            return std::nullopt;
+    }
+}
+
 ToolDefinition definition(PDFTool tool) {
     auto definition = makeToolDefinition("pdf." + std::string(caseName(tool)), PDFJobSettings{},
                                          [tool](const PDFJobSettings& settings) -> ToolWork {
@@ -39,6 +68,9 @@ ToolDefinition definition(PDFTool tool) {
     definition.panel = pdfPanel(tool);
     definition.accepts = accepted(tool);
     definition.password = passwordUse(tool);
+    definition.missing = [tool](const Json& settings, const Secrets& secrets) -> std::optional<Failure> {
+        return missing(tool, decodeJson<PDFJobSettings>(settings), secrets);
+    };
     definition.unreadable = PDFError(PDFError::Case::unreadable);
     return definition;
 }

@@ -73,14 +73,15 @@ PanelSection extensionToggle() {
 }  // namespace
 
 OptionsPanel renamePanel() {
-    return {{nameField(), keepToggle(), textField("Find and replace", "Text to look for", "find"),
-             textField({}, "What replaces it", "replaceWith"), matchCaseToggle(),
-             textField("More text", "Before the name", "prefix"), textField({}, "After the name", "suffix"),
-             numberingSection(),
-             numberField("First number", "startNumber", 0, RenamePattern::largestStartNumber),
-             numberField("Digits", "digits", 1, RenamePattern::mostDigits),
-             textField({}, "Between the number and the name", "separator"), letterCaseSection(),
-             extensionToggle(), textField({}, "New extension", "newExtension")}};
+    return {
+        {nameField(), keepToggle(), textField("Find and replace", "Text to look for", "find"),
+         textField({}, "What replaces it", "replaceWith"), matchCaseToggle(),
+         textField("More text", "Before the name", "prefix"), textField({}, "After the name", "suffix"),
+         numberingSection(), numberField("First number", "startNumber", 0, RenamePattern::largestStartNumber),
+         numberField("Digits", "digits", 1, RenamePattern::mostDigits),
+         textField({}, "Between the number and the name", "separator"), letterCaseSection(),
+         extensionToggle(), textField({}, "New extension", "newExtension")},
+        PanelEditor::names};
 }
 
 RenameWayText textOf(RenameWay way) {

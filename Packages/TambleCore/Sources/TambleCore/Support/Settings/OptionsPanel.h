@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include <boost/describe.hpp>
+
 /// What a tool lets people choose, as data: headings, choices with their texts, and the settings each choice
 /// changes. The window draws it, the command line prints it; neither knows the tools.
 namespace tamble {
@@ -51,8 +53,21 @@ struct PanelSection {
     std::string onlyForType = {};
 };
 
+/// What a window shows beside the options, where choosing takes more than they can.
+enum class PanelEditor {
+    none,
+    comparison,     ///< one input before and after
+    pageOrder,      ///< all pages, to be put in order, turned and left out
+    pageDeletion,   ///< all pages, of which some are picked to go
+    pageSelection,  ///< all pages, of which some are picked to be taken out
+    signature,      ///< a pad to sign on, and the pages to put the signature on
+    names,          ///< a table of old and new names
+};
+BOOST_DESCRIBE_ENUM(PanelEditor, none, comparison, pageOrder, pageDeletion, pageSelection, signature, names)
+
 struct OptionsPanel {
     std::vector<PanelSection> sections;
+    PanelEditor editor = PanelEditor::none;
 };
 
 /// The change of one member: {"quality": "best"}.

@@ -1,4 +1,4 @@
-#include <Tamble/CommandLine/Commands/Isolation.h>
+#include <Tamble/Model/ProtectedWork.h>
 
 #include <TambleCore/Jobs/Isolation/IsolatedWork.h>
 
@@ -14,17 +14,17 @@ bool worksInProcess() {
 
 }  // namespace
 
-ToolWork protectedWork(const ToolDefinition& tool, const Json& settings, const Secrets& secrets) {
+ToolWork protectedWork(const ToolDefinition& tool, const Json& settings, const Secrets& secrets,
+                       const std::shared_ptr<WorkerPool>& pool) {
     if (worksInProcess()) return tool.makeWork(settings, secrets);
-    return isolatedWork(tool, settings, secrets, std::make_shared<WorkerPool>());
+    return isolatedWork(tool, settings, secrets, pool);
 }
 
 std::optional<std::int64_t> protectedEstimate(const ToolDefinition& tool, std::span<const InputFile> files,
-                                              const Json& settings) {
+                                              const Json& settings, WorkerPool& pool, std::stop_token stop) {
     if (!tool.estimate) return std::nullopt;
-    if (worksInProcess()) return tool.estimate(files, settings, {});
-    WorkerPool pool;
-    return isolatedEstimate(tool, files, settings, pool, {});
+    if (worksInProcess()) return tool.estimate(files, settings, stop);
+    return isolatedEstimate(tool, files, settings, pool, stop);
 }
 
 }  // namespace tamble
