@@ -2,7 +2,6 @@
 #include <Tamble/Model/JobRecovery.h>
 #include <Tamble/Model/JobRunner.h>
 #include <Tamble/Model/ProtectedWork.h>
-#include <Tamble/Model/WatchedProcessor.h>
 
 #include <TambleCore/Jobs/Journal/JournalFile.h>
 #include <TambleCore/Platform/SystemFileOperations.h>
@@ -29,9 +28,7 @@ struct Run {
     std::stop_token stop;
 
     JobResult processed(const FileProcessor& processor) {
-        const WatchedProcessor watched(processor, [this](const InputFile& file) {
-            if (watch.onStart) watch.onStart(file);
-        });
+        const WatchedProcessor watched(processor, watch.onStart, watch.onEnd);
         return engine.run(std::move(order.files), watched, order.configuration, watch.onProgress, stop);
     }
     JobResult operator()(const Processor& processor) { return processed(*processor); }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Tamble/Model/WatchedProcessor.h>
+
 #include <TambleCore/Jobs/FileRenamer.h>
 #include <TambleCore/Jobs/Isolation/WorkerPool.h>
 #include <TambleCore/Jobs/JobEngine.h>
@@ -32,11 +34,12 @@ class JobRunner {
   public:
     explicit JobRunner(std::shared_ptr<WorkerPool> pool) : pool_(std::move(pool)) {}
 
-    /// Called from any thread, `onStart` by several at once; either may be empty.
+    /// Called from any thread, those for single files by several at once; each may be empty.
     struct Watch {
-        ProgressCallback onProgress;
-        /// Takes each file that is begun, for tools that make one output of one input.
-        std::function<void(const InputFile&)> onStart;
+        ProgressCallback onProgress = {};
+        /// Take each file that is begun and how each ended, for tools that make one output of one input.
+        std::function<void(const InputFile&)> onStart = {};
+        std::function<void(ItemEnd)> onEnd = {};
     };
 
     /// Blocks until the job is over and remembered; see JobEngine::run. Throws DecodeError for settings that

@@ -107,20 +107,6 @@ std::string planLine(const InputFile& file, const outcome::Failed& failed, PlanT
     return fmt::format("{}: would fail: {}", shownPath(file.url), failureSentence(failed.value));
 }
 
-}  // namespace
-
-namespace {
-
-/// How many files a folder that a tool wrote holds; 0 for a file.
-int filesIn(const std::filesystem::path& output) {
-    std::error_code error;
-    int count = 0;
-    for (std::filesystem::directory_iterator entry(output, error), end; !error && entry != end;
-         entry.increment(error))
-        ++count;
-    return count;
-}
-
 std::string savedText(const JobTotals& totals) {
     const std::string files = countText(totals.saved, "new file", "new files");
     if (totals.savedFolders == 0) return files;
@@ -128,23 +114,6 @@ std::string savedText(const JobTotals& totals) {
 }
 
 }  // namespace
-
-JobTotals JobTotals::of(const JobResult& result) {
-    JobTotals totals;
-    for (const auto& output : result.undo.createdFiles) {
-        const int files = filesIn(output);
-        totals.savedFolders += files > 0 ? 1 : 0;
-        totals.saved += std::max(files, 1);
-    }
-    for (const auto& item : result.items) {
-        if (std::holds_alternative<outcome::Done>(item.outcome)) totals.bytesBefore += item.file.byteSize;
-        if (std::holds_alternative<outcome::Skipped>(item.outcome)) ++totals.skipped;
-        if (std::holds_alternative<outcome::Failed>(item.outcome)) ++totals.failed;
-    }
-    for (const auto& [path, fingerprint] : result.undo.createdFingerprints)
-        totals.bytesAfter += fingerprint.size;
-    return totals;
-}
 
 std::string closingLine(const JobResult& result, const std::string& undoCommand) {
     if (result.wasCancelled) return "Stopped before saving; nothing was saved.";

@@ -1,26 +1,13 @@
 #pragma once
 
+#include <Tamble/Model/JobTotals.h>
+
 #include <TambleCore/Jobs/JobEngine.h>
 
 #include <string>
 #include <vector>
 
 namespace tamble {
-
-/// How many inputs ended how, and what became of their bytes.
-struct JobTotals {
-    /// New files; one for a tool that makes one of many.
-    /// Files, also those in folders that a tool wrote.
-    int saved = 0;
-    int savedFolders = 0;
-    int skipped = 0;
-    int failed = 0;
-    /// Of the inputs that were done, and of the new files.
-    std::int64_t bytesBefore = 0;
-    std::int64_t bytesAfter = 0;
-
-    static JobTotals of(const JobResult& result);
-};
 
 /// The one line that closes a job: saved, skipped with reasons, failed with sentences, bytes before and
 /// after, how to undo. `undoCommand` is empty for a job that left nothing to undo.

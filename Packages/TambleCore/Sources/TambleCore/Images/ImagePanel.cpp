@@ -119,24 +119,46 @@ PanelSection backgroundNote() {
             "Works best when the subject stands out clearly from the background."};
 }
 
-}  // namespace
-
-OptionsPanel imagePanel(ImageTool tool) {
+std::vector<PanelSection> sectionsOf(ImageTool tool) {
     switch (tool) {
         case ImageTool::convert:
-            return {{formatSection(), qualitySection()}, PanelEditor::comparison};
+            return {formatSection(), qualitySection()};
         case ImageTool::compress:
-            return {{qualitySection(), pngNote()}, PanelEditor::comparison};
+            return {qualitySection(), pngNote()};
         case ImageTool::resize:
-            return {resizeSections(), PanelEditor::comparison};
+            return resizeSections();
         case ImageTool::rotate:
-            return {{rotationSection()}, PanelEditor::comparison};
+            return {rotationSection()};
         case ImageTool::removeMetadata:
-            return {removalSections(), PanelEditor::comparison};
+            return removalSections();
         case ImageTool::removeBackground:
             break;
     }
-    return {{backgroundNote()}, PanelEditor::comparison};
+    return {backgroundNote()};
+}
+
+JobWords wordsOf(ImageTool tool) {
+    switch (tool) {
+        case ImageTool::convert:
+            return {"Convert %n photo(s)", "Converting %n photo(s)", "%n photo(s) converted"};
+        case ImageTool::compress:
+            return {"Make %n photo(s) smaller", "Making %n photo(s) smaller", "%n photo(s) made smaller"};
+        case ImageTool::resize:
+            return {"Resize %n photo(s)", "Resizing %n photo(s)", "%n photo(s) resized"};
+        case ImageTool::rotate:
+            return {"Turn %n photo(s)", "Turning %n photo(s)", "%n photo(s) turned"};
+        case ImageTool::removeMetadata:
+            return {"Clean %n photo(s)", "Cleaning %n photo(s)", "%n photo(s) cleaned"};
+        case ImageTool::removeBackground:
+            break;
+    }
+    return {"Remove %n background(s)", "Removing %n background(s)", "%n background(s) removed"};
+}
+
+}  // namespace
+
+OptionsPanel imagePanel(ImageTool tool) {
+    return {.sections = sectionsOf(tool), .editor = PanelEditor::comparison, .words = wordsOf(tool)};
 }
 
 }  // namespace tamble

@@ -108,37 +108,83 @@ std::vector<PanelSection> pictureSections() {
              .note = "150 suits screens, 300 suits printing."}};
 }
 
-}  // namespace
-
-OptionsPanel pdfPanel(PDFTool tool) {
+std::vector<PanelSection> sectionsOf(PDFTool tool) {
     switch (tool) {
         case PDFTool::merge:
-            return {{nameSection(), passwordSection("Password of locked PDFs", "Password")}};
+            return {nameSection(), passwordSection("Password of locked PDFs", "Password")};
         case PDFTool::split:
-            return {splitSections()};
+            return splitSections();
         case PDFTool::organize:
-            return {{pagesSection("The new order", "Pages in their new order", "For example 3, 1, 5-8")},
-                    PanelEditor::pageOrder};
+            return {pagesSection("The new order", "Pages in their new order", "For example 3, 1, 5-8")};
         case PDFTool::deletePages:
-            return {{pagesSection("Which pages should go?", "Pages to delete", "For example 2, 4-6")},
-                    PanelEditor::pageDeletion};
+            return {pagesSection("Which pages should go?", "Pages to delete", "For example 2, 4-6")};
         case PDFTool::extractPages:
-            return {{pagesSection("Which pages do you want?", "Pages to take out", "For example 1-3, 5")},
-                    PanelEditor::pageSelection};
+            return {pagesSection("Which pages do you want?", "Pages to take out", "For example 1-3, 5")};
         case PDFTool::compress:
-            return {compressionSections()};
+            return compressionSections();
         case PDFTool::sign:
-            return {{signatureNote()}, PanelEditor::signature};
+            return {signatureNote()};
         case PDFTool::addPassword:
-            return {{passwordSection("Password", "Type a password (at least 4 characters)")}};
+            return {passwordSection("Password", "Type a password (at least 4 characters)")};
         case PDFTool::removePassword:
-            return {{passwordSection("Password", "The password that opens the PDF")}};
+            return {passwordSection("Password", "The password that opens the PDF")};
         case PDFTool::fromImages:
-            return {pageShapeSections()};
+            return pageShapeSections();
         case PDFTool::toImages:
             break;
     }
-    return {pictureSections()};
+    return pictureSections();
+}
+
+PanelEditor editorOf(PDFTool tool) {
+    switch (tool) {
+        case PDFTool::organize:
+            return PanelEditor::pageOrder;
+        case PDFTool::deletePages:
+            return PanelEditor::pageDeletion;
+        case PDFTool::extractPages:
+            return PanelEditor::pageSelection;
+        case PDFTool::sign:
+            return PanelEditor::signature;
+        default:
+            return PanelEditor::none;
+    }
+}
+
+JobWords wordsOf(PDFTool tool) {
+    switch (tool) {
+        case PDFTool::merge:
+            return {"Combine %n file(s)", "Combining %n file(s)", "%n file(s) combined"};
+        case PDFTool::split:
+            return {"Split %n PDF(s)", "Splitting %n PDF(s)", "%n PDF(s) split"};
+        case PDFTool::organize:
+            return {"Reorder %n PDF(s)", "Reordering %n PDF(s)", "%n PDF(s) reordered"};
+        case PDFTool::deletePages:
+            return {"Delete pages from %n PDF(s)", "Deleting pages from %n PDF(s)",
+                    "Pages deleted from %n PDF(s)"};
+        case PDFTool::extractPages:
+            return {"Take pages out of %n PDF(s)", "Taking pages out of %n PDF(s)",
+                    "Pages taken out of %n PDF(s)"};
+        case PDFTool::compress:
+            return {"Make %n PDF(s) smaller", "Making %n PDF(s) smaller", "%n PDF(s) made smaller"};
+        case PDFTool::sign:
+            return {"Sign %n PDF(s)", "Signing %n PDF(s)", "%n PDF(s) signed"};
+        case PDFTool::addPassword:
+            return {"Lock %n PDF(s)", "Locking %n PDF(s)", "%n PDF(s) locked"};
+        case PDFTool::removePassword:
+            return {"Unlock %n PDF(s)", "Unlocking %n PDF(s)", "%n PDF(s) unlocked"};
+        case PDFTool::fromImages:
+            return {"Make a PDF of %n photo(s)", "Making a PDF of %n photo(s)", "A PDF made of %n photo(s)"};
+        case PDFTool::toImages:
+            break;
+    }
+    return {"Turn %n PDF(s) into photos", "Turning %n PDF(s) into photos", "%n PDF(s) turned into photos"};
+}
+
+}  // namespace
+
+OptionsPanel pdfPanel(PDFTool tool) {
+    return {.sections = sectionsOf(tool), .editor = editorOf(tool), .words = wordsOf(tool)};
 }
 
 }  // namespace tamble

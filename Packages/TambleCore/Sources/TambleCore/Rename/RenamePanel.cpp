@@ -81,7 +81,8 @@ OptionsPanel renamePanel() {
          numberField("Digits", "digits", 1, RenamePattern::mostDigits),
          textField({}, "Between the number and the name", "separator"), letterCaseSection(),
          extensionToggle(), textField({}, "New extension", "newExtension")},
-        PanelEditor::names};
+        PanelEditor::names,
+        {"Rename %n file(s)", "Renaming %n file(s)", "%n file(s) renamed"}};
 }
 
 RenameWayText textOf(RenameWay way) {

@@ -65,9 +65,18 @@ enum class PanelEditor {
 };
 BOOST_DESCRIBE_ENUM(PanelEditor, none, comparison, pageOrder, pageDeletion, pageSelection, signature, names)
 
+/// How a job is spoken of, "%n" standing for the number of its files and "(s)" for their plural: "Convert %n
+/// photo(s)", "Converting %n photo(s)", "%n photo(s) converted".
+struct JobWords {
+    std::string start;
+    std::string working;
+    std::string done;
+};
+
 struct OptionsPanel {
     std::vector<PanelSection> sections;
     PanelEditor editor = PanelEditor::none;
+    JobWords words = {};
 };
 
 /// The change of one member: {"quality": "best"}.

@@ -1,0 +1,125 @@
+#include <Tamble/Desktop/Models/IntakeModel.h>
+#include <Tamble/Desktop/Support/Background.h>
+#include <Tamble/Desktop/Support/Texts.h>
+#include <Tamble/Model/FittingTools.h>
+
+#include <TambleCore/Intake/FolderScanner.h>
+
+#include <unordered_set>
+
+namespace tamble {
+namespace {
+
+constexpr std::size_t bestCount = 4;
+
+ScanResult scanned(const std::vector<std::filesystem::path>& paths, std::stop_token stop) {
+    ScanOptions options(true);
+    // Every tool takes its own out of what was dropped.
+    options.accepts = [](const std::optional<ContentType>&) { return true; };
+    return FolderScanner{std::move(options)}.scan(paths, std::move(stop));
+}
+
+int othersAmong(std::size_t files, const KindCounts& counts) {
+    return static_cast<int>(files) - counts.images - counts.videos - counts.audio - counts.pdfs - counts.documents;
+}
+
+}  // namespace
+
+IntakeModel::IntakeModel(QObject* parent) : QObject(parent) {
+    pool_.setMaxThreadCount(1);
+}
+
+IntakeModel::~IntakeModel() {
+    scanning_.request_stop();
+    pool_.waitForDone();
+}
+
+void IntakeModel::add(const QList<QUrl>& urls) {
+    std::vector<std::filesystem::path> paths;
+    for (const QUrl& url : urls) {
+        if (const auto path = pathOf(url)) paths.push_back(*path);
+    }
+    if (paths.empty() && !urls.empty()) {
+        emit nothingFound(tr("That isn't a file on this computer."));
+    } else {
+        add(std::move(paths));
+    }
+}
+
+void IntakeModel::add(std::vector<std::filesystem::path> paths) {
+    if (paths.empty()) return;
+    ++pending_;
+    emit changed();
+    inBackground(
+        pool_, this, [paths = std::move(paths), stop = scanning_.get_token()] { return scanned(paths, stop); },
+        [this, round = round_](ScanResult scan) {
+            --pending_;
+            if (round == round_) take(std::move(scan));
+            emit changed();
+        });
+}
+
+void IntakeModel::take(ScanResult scan) {
+    std::unordered_set<std::string> known;
+    for (const InputFile& file : scan_.files) known.insert(file.url.native());
+    std::erase_if(scan.files, [&](const InputFile& file) { return known.contains(file.url.native()); });
+    const std::vector<InputFile> added = scan.files;
+    std::ranges::move(scan.files, std::back_inserter(scan_.files));
+    std::ranges::move(scan.roots, std::back_inserter(scan_.roots));
+    for (int ScanResult::* count :
+         {&ScanResult::looseFileCount, &ScanResult::otherFileCount, &ScanResult::skippedPackageCount,
+          &ScanResult::skippedLinkCount, &ScanResult::unreadableCount, &ScanResult::emptyFolderCount})
+        scan_.*count += scan.*count;
+    describe();
+    if (scan_.files.empty()) {
+        const auto notes = scanNotes(scan);
+        emit nothingFound(texts::engine(notes.empty() ? "The folder you chose is empty or couldn't be read." : notes.front()));
+    } else {
+        emit found(added);
+    }
+}
+
+void IntakeModel::replace(std::vector<InputFile> files) {
+    clear();
+    scan_.files = std::move(files);
+    scan_.looseFileCount = static_cast<int>(scan_.files.size());
+    describe();
+    emit changed();
+}
+
+void IntakeModel::clear() {
+    scanning_.request_stop();
+    scanning_ = std::stop_source();
+    ++round_;
+    scan_ = {};
+    describe();
+    emit changed();
+}
+
+void IntakeModel::describe() {
+    const KindCounts counts = KindCounts::of(scan_.files);
+    std::int64_t bytes = 0;
+    for (const InputFile& file : scan_.files) bytes += file.byteSize;
+    title_ = texts::kinds(counts, othersAmong(scan_.files.size(), counts));
+    QStringList places;
+    if (scan_.roots.size() == 1) places << tr("“%1”").arg(texts::name(scan_.roots.front().url.filename()));
+    if (scan_.roots.size() > 1) places << tr("%n folder(s)", nullptr, static_cast<int>(scan_.roots.size()));
+    if (scan_.looseFileCount > 0 && !scan_.roots.empty()) places << tr("%n single file(s)", nullptr, scan_.looseFileCount);
+    subtitle_ = places.isEmpty() ? texts::size(bytes) : tr("%1 in %2").arg(texts::size(bytes), places.join(tr(" and ")));
+    notes_.clear();
+    for (const auto& note : scanNotes(scan_)) notes_ << texts::engine(note);
+
+    std::vector<ToolListModel::Entry> best, others;
+    for (const auto& [tool, fileCount] : fittingTools(scan_.files)) {
+        auto& list = best.size() < bestCount ? best : others;
+        list.push_back({tool, texts::filesFor(*tool, scan_.files, fileCount)});
+    }
+    best_.setEntries(std::move(best));
+    others_.setEntries(std::move(others));
+}
+
+QString IntakeModel::preview(const QList<QUrl>& urls) const {
+    return tr("%n item(s)", nullptr, static_cast<int>(urls.size()));
+}
+
+}  // namespace tamble

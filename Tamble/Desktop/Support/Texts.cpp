@@ -1,0 +1,136 @@
+#include <Tamble/Desktop/Support/Texts.h>
+#include <Tamble/Model/ActivityEntry.h>
+
+#include <TambleCore/Platform/StandardFolders.h>
+#include <TambleCore/Support/FileURL.h>
+#include <TambleCore/Support/Text.h>
+#include <TambleCore/Support/Wording.h>
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QLocale>
+#include <QStringList>
+
+#include <cmath>
+
+namespace tamble {
+namespace {
+
+QString fromUtf8(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString tr(const char* text, int count = -1) {
+    return QCoreApplication::translate("Texts", text, nullptr, count);
+}
+
+}  // namespace
+
+namespace texts {
+
+QString engine(std::string_view text) {
+    if (text.empty()) return {};
+    const std::string key(text);
+    const QString translated = QCoreApplication::translate("Engine", key.c_str());
+    return translated != fromUtf8(key) ? translated : fromUtf8(localized(text));
+}
+
+QString size(std::int64_t bytes) {
+    if (bytes < 1000) return tr("%n byte(s)", static_cast<int>(bytes));
+    return QLocale().formattedDataSize(bytes, bytes < 1'000'000 ? 0 : 1, QLocale::DataSizeSIFormat);
+}
+
+QString change(std::int64_t bytesBefore, std::int64_t bytesAfter) {
+    if (bytesBefore <= 0) return {};
+    const double percent = 100.0 * static_cast<double>(bytesAfter - bytesBefore) / static_cast<double>(bytesBefore);
+    const int whole = static_cast<int>(std::lround(std::abs(percent)));
+    if (whole == 0) return tr("the same size");
+    // "100 % smaller" would say that nothing is left.
+    return percent < 0 ? tr("%1 % smaller").arg(std::min(whole, 99)) : tr("%1 % larger").arg(whole);
+}
+
+QString timeLeft(double seconds) {
+    const int whole = static_cast<int>(std::ceil(seconds));
+    if (whole < 5) return tr("A few seconds left");
+    if (whole < 60) return tr("About %n second(s) left", (whole + 4) / 5 * 5);
+    if (whole < 3600) return tr("About %n minute(s) left", (whole + 30) / 60);
+    return tr("About %n hour(s) left", (whole + 1800) / 3600);
+}
+
+QString timeAgo(std::string_view isoDate) {
+    const QDateTime then = QDateTime::fromString(fromUtf8(isoDate), Qt::ISODate).toLocalTime();
+    const QDateTime now = QDateTime::currentDateTime();
+    if (!then.isValid()) return {};
+    const qint64 minutes = then.secsTo(now) / 60;
+    if (minutes < 1) return tr("Just now");
+    if (minutes < 60) return tr("%n minute(s) ago", static_cast<int>(minutes));
+    if (then.date() == now.date()) return tr("%n hour(s) ago", static_cast<int>(minutes / 60));
+    if (then.date().daysTo(now.date()) == 1) return tr("Yesterday");
+    const bool isThisYear = then.date().year() == now.date().year();
+    return QLocale().toString(then.date(), isThisYear ? tr("d MMMM", -1) : tr("d MMMM yyyy", -1));
+}
+
+QString kinds(const KindCounts& counts, int others) {
+    QStringList parts;
+    if (counts.images > 0) parts << tr("%n photo(s)", counts.images);
+    if (counts.videos > 0) parts << tr("%n video(s)", counts.videos);
+    if (counts.audio > 0) parts << tr("%n sound file(s)", counts.audio);
+    if (counts.pdfs > 0) parts << tr("%n PDF(s)", counts.pdfs);
+    if (counts.documents > 0) parts << tr("%n document(s)", counts.documents);
+    if (others > 0) parts << (parts.isEmpty() ? tr("%n file(s)", others) : tr("%n other file(s)", others));
+    return parts.join(QStringLiteral(", "));
+}
+
+QString files(const KindCounts& counts, std::size_t count) {
+    const int number = static_cast<int>(count);
+    for (const int kind : {counts.images, counts.videos, counts.audio, counts.pdfs, counts.documents}) {
+        if (kind == number && number > 0) return kinds(counts, 0);
+    }
+    return tr("%n file(s)", number);
+}
+
+QString name(const std::filesystem::path& path) {
+    QString text = fromUtf8(printable(path.native()));
+    for (QChar& character : text) {
+        if (character.category() == QChar::Other_Control || character.category() == QChar::Other_Format ||
+            character == QChar::LineSeparator || character == QChar::ParagraphSeparator)
+            character = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
+QString place(const std::filesystem::path& path) {
+    const auto below = path.lexically_relative(folders::home());
+    if (below.empty() || *below.begin() == "..") return name(path);
+    return below == "." ? QStringLiteral("~") : QStringLiteral("~/") + name(below);
+}
+
+QString skipped(const SkipReason& reason) {
+    if (const auto* already = std::get_if<skip::AlreadyInFormat>(&reason))
+        return tr("Already in that format (%1).").arg(fromUtf8(already->value));
+    return engine(sentence(reason));
+}
+
+QString note(ItemNote note) {
+    switch (note) {
+        case ItemNote::originalKeptNoBin:
+            return tr("There is no Bin for this disk, so the original was kept and the new file saved beside it.");
+        case ItemNote::existingKeptNoBin:
+            return tr("There is no Bin for this disk, so the existing file was kept and the new file saved with a number.");
+        case ItemNote::sealBroken:
+            break;
+    }
+    return tr("This PDF is digitally signed. The new file is a changed one, so the seal no longer holds for it.");
+}
+
+}  // namespace texts
+
+QUrl urlOf(const std::filesystem::path& path) {
+    return QUrl::fromEncoded(QByteArray::fromStdString(fileURL(FilePath(path))));
+}
+
+std::optional<std::filesystem::path> pathOf(const QUrl& url) {
+    return pathFromFileURL(url.toEncoded().toStdString());
+}
+
+}  // namespace tamble
