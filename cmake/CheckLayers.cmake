@@ -15,9 +15,10 @@ endforeach()
 # Pages become pictures and pictures become pages.
 list(APPEND PDF_from Images)
 list(APPEND Smart_from Media PDF)
+set(Previews_from Support Platform Intake Jobs Images PDF)
 set(Catalog_from Support Platform Intake Jobs ${families})
 
-foreach(room Support Platform Intake Jobs ${families} Catalog)
+foreach(room Support Platform Intake Jobs ${families} Previews Catalog)
     file(GLOB_RECURSE sources ${core}/${room}/*.h ${core}/${room}/*.cpp)
     foreach(source ${sources})
         file(STRINGS ${source} includes REGEX "^#include [<\"](TambleCore/|Tamble/|Q[A-Z])")

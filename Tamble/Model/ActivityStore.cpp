@@ -1,6 +1,8 @@
 #include <Tamble/Model/ActivityStore.h>
+#include <Tamble/Model/PreferencesStore.h>
 #include <Tamble/Model/UndoMarks.h>
 
+#include <TambleCore/Catalog/ToolCatalog.h>
 #include <TambleCore/Platform/FileLock.h>
 #include <TambleCore/Platform/StandardFolders.h>
 #include <TambleCore/Platform/SystemError.h>
@@ -25,6 +27,16 @@ void forgetOldest(std::vector<StoredEntry>& entries) {
         if (kept > 0 && bytes > ActivityStore::maximumBytes) break;
     }
     entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(kept), entries.end());
+}
+
+/// For the tools of the start screen; no job fails for it.
+void countUseOf(const ActivityEntry& entry) {
+    if (ToolCatalog::withID(entry.toolID) == nullptr) return;
+    try {
+        PreferencesStore().countUse(entry.toolID, std::chrono::system_clock::now());
+    } catch (const std::exception& error) {
+        activityLog.error("Couldn't count the use of a tool: {}", causeOf(error));
+    }
 }
 
 }  // namespace
@@ -61,6 +73,7 @@ const ActivityEntry* ActivityStore::entry(const std::string& id) const {
 
 bool ActivityStore::add(ActivityEntry entry) {
     const StoredEntry added(entry);
+    countUseOf(entry);
     return merge([&](std::vector<StoredEntry>& entries) {
         // The change is made once on disk and once more in memory when the disk refuses it.
         if (find(entries, entry.id) == entries.end()) entries.insert(entries.begin(), added);

@@ -2,9 +2,13 @@
 
 #include <TambleCore/Platform/StandardFolders.h>
 #include <TambleCore/Platform/SystemError.h>
+#include <TambleCore/Support/Json/JsonCoding.h>
 #include <TambleCore/Support/Log.h>
 
+#include <algorithm>
 #include <utility>
+
+#include <stdlib.h>
 
 namespace tamble {
 namespace {
@@ -14,6 +18,27 @@ constexpr Log preferencesLog("preferences");
 constexpr const char* foldersKey = "save.folders";
 constexpr const char* looseFilesKey = "save.looseFiles";
 constexpr const char* rememberKey = "save.rememberFolderChoice";
+constexpr const char* appearanceKey = "window.appearance";
+constexpr const char* windowSizeKey = "window.size";
+constexpr const char* notifyKey = "jobs.notifyWhenDone";
+constexpr const char* atOnceKey = "jobs.atOnce";
+constexpr const char* mediaHelperKey = "helpers.media";
+constexpr const char* subjectModelKey = "helpers.subjectModel";
+constexpr const char* usesKey = "tools.uses";
+
+std::vector<ToolUse> usesIn(const Json& document) {
+    std::vector<ToolUse> uses;
+    const auto found = document.find(usesKey);
+    if (found == document.end() || !found->is_array()) return uses;
+    for (const Json& each : *found) {
+        try {
+            uses.push_back(decodeJson<ToolUse>(each));
+        } catch (const DecodeError& error) {
+            preferencesLog.error("Use of a tool unreadable: {}", error.what());
+        }
+    }
+    return uses;
+}
 
 }  // namespace
 
@@ -24,60 +49,145 @@ std::filesystem::path PreferencesStore::defaultFile() {
 }
 
 SavePreferences PreferencesStore::saveFolders() const {
-    return read(foldersKey, SavePreferences::forFolders());
+    return value(foldersKey, SavePreferences::forFolders());
 }
 
 SavePreferences PreferencesStore::saveLooseFiles() const {
-    return read(looseFilesKey, SavePreferences::forLooseFiles());
+    return value(looseFilesKey, SavePreferences::forLooseFiles());
 }
 
 bool PreferencesStore::rememberFolderChoice() const {
-    const Json document = read();
-    const auto found = document.find(rememberKey);
-    return found == document.end() || !found->is_boolean() || found->get<bool>();
+    return value(rememberKey, true);
+}
+
+Appearance PreferencesStore::appearance() const {
+    return value(appearanceKey, Appearance::system);
+}
+
+std::optional<WindowSize> PreferencesStore::windowSize() const {
+    const auto size = value(windowSizeKey, WindowSize());
+    const auto isSide = [](int pixels) { return pixels > 0 && pixels <= 100'000; };
+    return isSide(size.width) && isSide(size.height) ? std::optional(size) : std::nullopt;
+}
+
+bool PreferencesStore::notifyWhenDone() const {
+    return value(notifyKey, true);
+}
+
+int PreferencesStore::atOnce() const {
+    return std::clamp(value(atOnceKey, 0), 0, mostAtOnce);
+}
+
+std::filesystem::path PreferencesStore::mediaHelper() const {
+    return value(mediaHelperKey, std::filesystem::path());
+}
+
+std::filesystem::path PreferencesStore::subjectModel() const {
+    return value(subjectModelKey, std::filesystem::path());
+}
+
+std::vector<ToolUse> PreferencesStore::toolUses() const {
+    return usesIn(read());
 }
 
 void PreferencesStore::setSaveFolders(const SavePreferences& preferences) {
-    set(foldersKey, encodeJson(preferences));
+    set(foldersKey, preferences);
 }
 
 void PreferencesStore::setSaveLooseFiles(const SavePreferences& preferences) {
-    set(looseFilesKey, encodeJson(preferences));
+    set(looseFilesKey, preferences);
 }
 
 void PreferencesStore::setRememberFolderChoice(bool remember) {
     set(rememberKey, remember);
 }
 
-/// What cannot be read counts as never set.
+void PreferencesStore::setAppearance(Appearance appearance) {
+    set(appearanceKey, appearance);
+}
+
+void PreferencesStore::setWindowSize(const WindowSize& size) {
+    set(windowSizeKey, size);
+}
+
+void PreferencesStore::setNotifyWhenDone(bool notify) {
+    set(notifyKey, notify);
+}
+
+void PreferencesStore::setAtOnce(int items) {
+    set(atOnceKey, std::clamp(items, 0, mostAtOnce));
+}
+
+void PreferencesStore::setMediaHelper(const std::filesystem::path& program) {
+    setPath(mediaHelperKey, program);
+}
+
+void PreferencesStore::setSubjectModel(const std::filesystem::path& file) {
+    setPath(subjectModelKey, file);
+}
+
+void PreferencesStore::countUse(const std::string& toolID, std::chrono::system_clock::time_point now) {
+    update([&](Json& document) {
+        auto uses = usesIn(document);
+        tamble::countUse(uses, toolID, now);
+        document[usesKey] = encodeJson(uses);
+    });
+}
+
 Json PreferencesStore::read() const {
+    return onDisk().value_or(Json::object());
+}
+
+/// Empty when there is a file that cannot be read or is no object.
+std::optional<Json> PreferencesStore::onDisk() const {
     try {
-        if (auto document = file_.read(); document && document->is_object()) return std::move(*document);
+        Json document = file_.read().value_or(Json::object());
+        if (document.is_object()) return document;
+        preferencesLog.error("Preferences unreadable: no object");
     } catch (const std::exception& error) {
         preferencesLog.error("Preferences unreadable: {}", causeOf(error));
     }
-    return Json::object();
+    return std::nullopt;
 }
 
-SavePreferences PreferencesStore::read(const char* key, SavePreferences otherwise) const {
+template <typename T>
+T PreferencesStore::value(const char* key, T otherwise) const {
     const Json document = read();
     const auto found = document.find(key);
     if (found == document.end()) return otherwise;
     try {
-        return decodeJson<SavePreferences>(*found);
+        return decodeJson<T>(*found);
     } catch (const DecodeError& error) {
         preferencesLog.error("Preferences unreadable: {}", causeOf(error));
         return otherwise;
     }
 }
 
+template <typename T>
+void PreferencesStore::set(const char* key, const T& value) {
+    update([&](Json& document) { document[key] = encodeJson(value); });
+}
+
+void PreferencesStore::setPath(const char* key, const std::filesystem::path& path) {
+    if (!path.empty()) return set(key, path);
+    update([&](Json& document) { document.erase(key); });
+}
+
 /// Everything else in the file stays as it is.
-void PreferencesStore::set(const char* key, Json value) const {
+void PreferencesStore::update(const std::function<void(Json&)>& change) {
     file_.update([&] {
-        Json document = read();
-        document[key] = std::move(value);
-        return document;
+        auto document = onDisk();
+        if (!document) file_.moveAside();
+        Json changed = std::move(document).value_or(Json::object());
+        change(changed);
+        return changed;
     });
+}
+
+void useHelpers(const PreferencesStore& preferences) {
+    const auto model = preferences.subjectModel();
+    std::error_code ignored;
+    if (std::filesystem::exists(model, ignored)) ::setenv("TAMBLE_SUBJECT_MODEL", model.c_str(), 0);
 }
 
 }  // namespace tamble

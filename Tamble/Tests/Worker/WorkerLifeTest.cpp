@@ -69,6 +69,31 @@ TEST_F(IsolationTest, WorkersAreUsedAgainAndEndWithThePool) {
     EXPECT_THAT(childrenOf(::getpid()), testing::IsEmpty());
 }
 
+TEST_F(IsolationTest, SpareWorkersWaitForCallsWithTheirPermit) {
+    const auto other = folder() / "TambleStaging-2";
+    std::filesystem::create_directories(other);
+    const auto file = input("a");
+    for (const std::size_t spare : {std::size_t{0}, std::size_t{1}}) {
+        limits_.spare = spare;
+        const auto shared = std::make_shared<WorkerPool>(limits_, MISBEHAVING_WORKER);
+        const auto inFolder = [&](const std::filesystem::path& staging) {
+            const auto work =
+                isolatedWork(*misbehavingTool("test.each"), encodeJson(MisbehavingSettings{}), {}, shared);
+            const auto& processor = *std::get<std::unique_ptr<FileProcessor>>(work);
+            EXPECT_EQ(outcomeOf(processor, file, staging / "out"), "done");
+            std::filesystem::remove(staging / "out");
+            return childrenOf(::getpid());
+        };
+        inFolder(staging());
+        const auto both = inFolder(other);
+        EXPECT_EQ(both.size(), 1 + spare);
+        const auto again = inFolder(staging());
+        EXPECT_EQ(again == both, spare == 1);
+        EXPECT_EQ(again.size(), 1 + spare);
+    }
+    EXPECT_THAT(childrenOf(::getpid()), testing::IsEmpty());
+}
+
 TEST_F(IsolationTest, AWorkerKilledAtWorkFailsItsItem) {
     const auto work = processor();
     std::string outcome;

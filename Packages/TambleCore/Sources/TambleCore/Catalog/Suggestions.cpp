@@ -1,6 +1,8 @@
 #include <TambleCore/Catalog/Suggestions.h>
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace tamble {
 namespace {
@@ -15,44 +17,71 @@ constexpr std::array<ToolKind, 8> forVideos{VideoTool::compress,     VideoTool::
                                             SmartTool::transcribe,   FileTool::rename};
 constexpr std::array<ToolKind, 5> forAudio{AudioTool::convert, AudioTool::cleanup, AudioTool::trim,
                                            SmartTool::transcribe, FileTool::rename};
-constexpr std::array<ToolKind, 8> forPDFs{PDFTool::merge,    PDFTool::compress,     PDFTool::split,
-                                          PDFTool::organize, PDFTool::extractPages, PDFTool::toImages,
-                                          SmartTool::ocr,    SmartTool::summarize};
+constexpr std::array<ToolKind, 9> forPDFs{PDFTool::merge,    PDFTool::compress, PDFTool::split,
+                                          PDFTool::organize, PDFTool::sign,     PDFTool::extractPages,
+                                          PDFTool::toImages, SmartTool::ocr,    SmartTool::summarize};
+/// Nothing is there to combine it with.
+constexpr std::array<ToolKind, 9> forOnePDF{PDFTool::compress, PDFTool::sign,         PDFTool::split,
+                                            PDFTool::organize, PDFTool::extractPages, PDFTool::toImages,
+                                            SmartTool::ocr,    SmartTool::summarize,  PDFTool::merge};
 constexpr std::array<ToolKind, 3> forDocuments{SmartTool::summarize, SmartTool::translate, FileTool::rename};
+
+/// So many are seen at a glance.
+constexpr std::size_t seenFirst = 4;
 
 struct Suggestion {
     int count;
-    std::vector<ToolKind> kinds;
+    std::vector<const ToolInfo*> tools;
 };
 
 template <typename... Lists>
-std::vector<ToolKind> joined(const Lists&... lists) {
-    std::vector<ToolKind> kinds;
-    (kinds.insert(kinds.end(), lists.begin(), lists.end()), ...);
-    return kinds;
+std::vector<const ToolInfo*> runnable(const Lists&... lists) {
+    std::vector<const ToolInfo*> tools;
+    const auto add = [&](const ToolKind& kind) {
+        const ToolInfo* tool = ToolCatalog::ofKind(kind);
+        if (ToolCatalog::definition(tool->id) != nullptr) tools.push_back(tool);
+    };
+    (std::ranges::for_each(lists, add), ...);
+    return tools;
 }
+
+class Gathered {
+  public:
+    /// Up to so many of them that are not there yet.
+    void add(const Suggestion& suggestion, std::size_t most) {
+        for (const ToolInfo* tool : suggestion.tools) {
+            if (most == 0) return;
+            if (std::ranges::find(tools_, tool->id, &ToolInfo::id) != tools_.end()) continue;
+            tools_.push_back(*tool);
+            --most;
+        }
+    }
+    std::vector<ToolInfo> take() && { return std::move(tools_); }
+
+  private:
+    std::vector<ToolInfo> tools_;
+};
 
 }  // namespace
 
 std::vector<ToolInfo> suggestedTools(const KindCounts& counts) {
-    std::array<Suggestion, 5> suggestions{{
-        {counts.images, joined(forImages, forImagesElsewhere)},
-        {counts.videos, joined(forVideos)},
-        {counts.audio, joined(forAudio)},
-        {counts.pdfs, joined(forPDFs)},
-        {counts.documents, joined(forDocuments)},
-    }};
+    const bool isLonely = counts.pdfs + counts.images == 1;
+    std::vector<Suggestion> suggestions{
+        {counts.images, runnable(forImages, forImagesElsewhere)},
+        {counts.videos, runnable(forVideos)},
+        {counts.audio, runnable(forAudio)},
+        {counts.pdfs, isLonely ? runnable(forOnePDF) : runnable(forPDFs)},
+        {counts.documents, runnable(forDocuments)},
+    };
+    std::erase_if(suggestions, [](const Suggestion& each) { return each.count == 0 || each.tools.empty(); });
     std::ranges::stable_sort(suggestions, std::ranges::greater(), &Suggestion::count);
-    std::vector<ToolInfo> tools;
-    for (const auto& suggestion : suggestions) {
-        if (suggestion.count == 0) continue;
-        for (const ToolKind& kind : suggestion.kinds) {
-            const ToolInfo* tool = ToolCatalog::ofKind(kind);
-            const bool known = std::ranges::find(tools, tool->id, &ToolInfo::id) != tools.end();
-            if (!known && ToolCatalog::definition(tool->id) != nullptr) tools.push_back(*tool);
-        }
-    }
-    return tools;
+    Gathered gathered;
+    // The most frequent kind leads, and leaves a place for the best of each other kind.
+    const std::size_t others = suggestions.empty() ? 0 : suggestions.size() - 1;
+    std::size_t share = seenFirst - std::min(others, seenFirst - 1);
+    for (const Suggestion& each : suggestions) gathered.add(each, std::exchange(share, 1));
+    for (const Suggestion& each : suggestions) gathered.add(each, each.tools.size());
+    return std::move(gathered).take();
 }
 
 }  // namespace tamble

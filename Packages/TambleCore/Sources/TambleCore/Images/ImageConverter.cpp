@@ -32,6 +32,11 @@ ImageConverter::Memory ImageConverter::encodedData(const std::filesystem::path& 
     return data;
 }
 
+Raster ImageConverter::picture(const std::filesystem::path& source, int maxPixelSize,
+                               const WorkContext& context) const {
+    return imageEngine().picture(source, maxPixelSize, context);
+}
+
 void ImageConverter::encode(const Raster& picture, const Drawn& how, const Target& target,
                             const WorkContext& context) const {
     imageEngine().encode(picture, how, target, context);

@@ -31,6 +31,12 @@ class ImageConverter {
     Memory encodedData(const std::filesystem::path& source, const ImageJobSettings& settings,
                        std::optional<ImageFormat> format, const WorkContext& context = {}) const;
 
+    /// The picture at `source` as it is shown on a screen, upright, in three or four channels, its longest
+    /// side at most `maxPixelSize` and never enlarged; of several pictures the first. Throws as convert()
+    /// does.
+    Raster picture(const std::filesystem::path& source, int maxPixelSize,
+                   const WorkContext& context = {}) const;
+
     /// How a drawn picture is written.
     struct Drawn {
         ImageFormat format = ImageFormat::png;

@@ -14,6 +14,8 @@ class ImageEngine {
                          const WorkContext& context) const = 0;
     virtual void encode(const Raster& picture, const ImageConverter::Drawn& how,
                         const ImageConverter::Target& target, const WorkContext& context) const = 0;
+    virtual Raster picture(const std::filesystem::path& source, int maxPixelSize,
+                           const WorkContext& context) const = 0;
     virtual bool canWrite(ImageFormat format) const = 0;
     virtual bool imageIOWritesWebP() const = 0;
 };

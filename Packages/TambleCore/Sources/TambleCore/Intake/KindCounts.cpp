@@ -5,19 +5,22 @@
 namespace tamble {
 
 KindCounts KindCounts::of(std::span<const InputFile> files) {
+    return of(typeCounts(files));
+}
+
+KindCounts KindCounts::of(const std::vector<TypeCount>& types) {
     KindCounts counts;
-    for (const auto& file : files) {
-        const auto& type = file.contentType;
+    for (const auto& [type, files] : types) {
         if (FileTypes::isReadableImage(type)) {
-            ++counts.images;
+            counts.images += files;
         } else if (MediaTypes::isVideo(type)) {
-            ++counts.videos;
+            counts.videos += files;
         } else if (MediaTypes::isAudio(type)) {
-            ++counts.audio;
+            counts.audio += files;
         } else if (FileTypes::isPDF(type)) {
-            ++counts.pdfs;
+            counts.pdfs += files;
         } else if (FileTypes::isDocument(type) || FileTypes::isSubtitle(type)) {
-            ++counts.documents;
+            counts.documents += files;
         }
     }
     return counts;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <TambleCore/Intake/InputFile.h>
+#include <TambleCore/Intake/TypeCounts.h>
 
 #include <span>
 
@@ -17,6 +17,9 @@ struct KindCounts {
     int documents = 0;
 
     static KindCounts of(std::span<const InputFile> files);
+    static KindCounts of(const std::vector<TypeCount>& types);
+    /// Files of any kind.
+    int total() const noexcept { return images + videos + audio + pdfs + documents; }
     friend bool operator==(const KindCounts&, const KindCounts&) = default;
 };
 BOOST_DESCRIBE_STRUCT(KindCounts, (), (images, videos, audio, pdfs, documents))

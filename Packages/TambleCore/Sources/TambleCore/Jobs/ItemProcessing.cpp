@@ -24,25 +24,6 @@ outcome::Failed unexpected(const std::string& cause) {
     return failed("unexpected", "Something unexpected went wrong: " + cause);
 }
 
-/// Does the work. When an input changed meanwhile, that is what went wrong, whatever else the work met.
-template <typename Work>
-void watching(std::span<const WatchedInput> inputs, const Work& work) {
-    const auto throwIfAnyChanged = [&] {
-        for (const WatchedInput& input : inputs) input.throwIfChanged();
-    };
-    try {
-        work();
-    } catch (const ProcessorSkip&) {
-        throw;
-    } catch (const Cancelled&) {
-        throw;
-    } catch (...) {
-        throwIfAnyChanged();
-        throw;
-    }
-    throwIfAnyChanged();
-}
-
 /// The outcome of work that answers with its own; whatever it throws becomes one.
 template <typename Work>
 StageOutcome outcomeOf(const Work& work, const std::stop_token& stop) {

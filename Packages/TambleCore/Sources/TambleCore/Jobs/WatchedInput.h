@@ -1,8 +1,12 @@
 #pragma once
 
 #include <TambleCore/Intake/InputFile.h>
+#include <TambleCore/Jobs/SkipReason.h>
 #include <TambleCore/Platform/FileState.h>
 #include <TambleCore/Support/Failure.h>
+#include <TambleCore/Support/WorkContext.h>
+
+#include <span>
 
 namespace tamble {
 
@@ -33,6 +37,25 @@ class WatchedInput {
     std::optional<FileState> input_;
     std::optional<FileState> original_;
 };
+
+/// Does the work. When an input changed meanwhile, that is what went wrong, whatever else the work met.
+template <typename Work>
+void watching(std::span<const WatchedInput> inputs, const Work& work) {
+    const auto throwIfAnyChanged = [&] {
+        for (const WatchedInput& input : inputs) input.throwIfChanged();
+    };
+    try {
+        work();
+    } catch (const ProcessorSkip&) {
+        throw;
+    } catch (const Cancelled&) {
+        throw;
+    } catch (...) {
+        throwIfAnyChanged();
+        throw;
+    }
+    throwIfAnyChanged();
+}
 
 /// Throws InputFailure when what stands at the path is not as it was.
 void throwIfChanged(const std::filesystem::path& path, const std::optional<FileState>& before,

@@ -3,6 +3,7 @@
 #include <TambleCore/Images/Codec/Drawing.h>
 #include <TambleCore/Images/Codec/Files.h>
 #include <TambleCore/Images/Codec/PictureCount.h>
+#include <TambleCore/Images/Codec/ShownPicture.h>
 #include <TambleCore/Images/Codec/VipsLibrary.h>
 #include <TambleCore/Images/Codec/WritableFormats.h>
 #include <TambleCore/Images/ImageEngine.h>
@@ -23,16 +24,21 @@ ImageFormat writtenFormat(const ImageJobSettings& settings, std::optional<ImageF
     return *format;
 }
 
+Container knownContainer(ByteView file, const std::filesystem::path& source) {
+    const auto container = containerOf(file, source);
+    if (!container) throw ConversionError(ConversionError::Case::unreadable, "Unknown kind of file");
+    return *container;
+}
+
 Bytes converted(const std::filesystem::path& source, const ImageJobSettings& settings,
                 std::optional<ImageFormat> format, const WorkContext& context) {
     context.throwIfStopped();
     const Bytes file = readWhole(source);
-    const auto container = containerOf(file, source);
-    if (!container) throw ConversionError(ConversionError::Case::unreadable, "Unknown kind of file");
-    refuseSeveralPictures(file, *container);
+    const Container container = knownContainer(file, source);
+    refuseSeveralPictures(file, container);
     return Conversion{.file = file,
-                      .container = *container,
-                      .format = writtenFormat(settings, format, *container),
+                      .container = container,
+                      .format = writtenFormat(settings, format, container),
                       .settings = settings,
                       .context = context}
         .result();
@@ -68,6 +74,16 @@ class Engine : public ImageEngine {
             deliver(encodedDrawing(picture, how, context), target);
         } catch (const std::bad_alloc&) {
             throw ConversionError(ConversionError::Case::encodeFailed, "Not enough memory");
+        }
+    }
+    Raster picture(const std::filesystem::path& source, int maxPixelSize,
+                   const WorkContext& context) const override {
+        try {
+            context.throwIfStopped();
+            const Bytes file = readWhole(source);
+            return shownPicture(file, knownContainer(file, source), maxPixelSize, context);
+        } catch (const std::bad_alloc&) {
+            throw ConversionError(ConversionError::Case::cannotDecode, "Not enough memory");
         }
     }
     bool canWrite(ImageFormat format) const override { return canBeWritten(format); }

@@ -14,6 +14,13 @@ namespace {
 
 constexpr Log workerLog("worker");
 
+/// Whether a worker that was started with the one permit can do what takes the other. How long it may be
+/// silent is a matter of each call.
+bool suits(const WorkerPermit& given, const WorkerPermit& wanted) {
+    return given.writable == wanted.writable && given.needs.startsPrograms == wanted.needs.startsPrograms &&
+           given.needs.memory == wanted.needs.memory;
+}
+
 }  // namespace
 
 std::uint64_t WorkerLimits::defaultMemory() {
@@ -57,14 +64,15 @@ std::unique_ptr<WorkerProcess> WorkerPool::take(const WorkerPermit& permit) {
             std::ranges::partition(idle_, [](const auto& worker) { return worker->isQuiet(); });
         std::ranges::move(spoilt, std::back_inserter(discarded));
         idle_.erase(spoilt.begin(), spoilt.end());
-        const auto fitting = std::ranges::find(idle_, permit, &WorkerProcess::permit);
+        const auto fitting =
+            std::ranges::find_if(idle_, [&](const auto& worker) { return suits(worker->permit(), permit); });
         if (fitting != idle_.end()) {
             auto worker = std::move(*fitting);
             idle_.erase(fitting);
             return worker;
         }
         // Its place is taken by the new one, so that there are never more than calls at the same time.
-        if (!idle_.empty()) {
+        if (idle_.size() > limits_.spare) {
             discarded.push_back(std::move(idle_.front()));
             idle_.erase(idle_.begin());
         }

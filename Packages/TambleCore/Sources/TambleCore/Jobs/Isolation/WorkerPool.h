@@ -26,6 +26,8 @@ struct WorkerLimits {
     std::chrono::milliseconds processor{std::chrono::minutes(15)};
     /// How long a worker may take to start.
     std::chrono::milliseconds starting{std::chrono::seconds(30)};
+    /// How many idle workers may wait on when a call needs one with another permit.
+    std::size_t spare = 0;
     /// Bytes of memory for each worker.
     std::uint64_t memory = defaultMemory();
 
@@ -60,7 +62,8 @@ class WorkerUnavailable : public Failure {
     ~WorkerUnavailable() override;
 };
 
-/// The worker processes of an application. Started when first needed, as many as calls at the same time;
+/// The worker processes of an application. Started when first needed, as many as calls at the same time, and
+/// as many spare ones as the limits allow;
 /// each serves one call at a time and is used again for the next. They end with the pool.
 class WorkerPool {
   public:

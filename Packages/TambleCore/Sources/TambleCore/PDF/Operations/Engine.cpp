@@ -1,6 +1,7 @@
 #include <TambleCore/PDF/Operations/Operations.h>
 #include <TambleCore/PDF/PDFEngine.h>
 #include <TambleCore/PDF/PDFError.h>
+#include <TambleCore/PDF/Pages/ShownPages.h>
 
 #include <filesystem>
 #include <stdexcept>
@@ -59,6 +60,15 @@ class Engine final : public PDFEngine {
             const CombinedWork work{files, destination, settings, context};
             tool == PDFTool::merge ? merge(work) : fromImages(work);
         });
+    }
+    std::vector<PageSize> pageSizes(const std::filesystem::path& file,
+                                    const std::string& password) const override {
+        std::vector<PageSize> sizes;
+        readable([&] { sizes = shownSizes(Document::open(file, password)); });
+        return sizes;
+    }
+    void drawPages(const PageSpan& span, const PageTaker& take, const WorkContext& context) const override {
+        readable([&] { drawShown(span, take, context); });
     }
 };
 
