@@ -84,10 +84,10 @@ void FileListModel::sort(Order order) {
 
 QString pictureSource(const InputFile& file) {
     const char* kind = FileTypes::isReadableImage(file.contentType) ? "photo"
-                       : FileTypes::isPDF(file.contentType)         ? "pdf"
+                       : FileTypes::isPDF(file.contentType)         ? "page/0"
                                                                     : nullptr;
     if (kind == nullptr) return {};
-    return QStringLiteral("image://file/%1/%2")
+    return QStringLiteral("%1/%2")
         .arg(QLatin1String(kind), QString::fromStdString(percentEncoded(file.url.native())));
 }
 

@@ -43,7 +43,7 @@ class FileListModel : public QAbstractListModel {
     ToolSession* session_ = nullptr;
 };
 
-/// Where the window's picture of a file comes from; empty for kinds of which there is none.
+/// What the picture of a file is called behind "image://file/"; empty for kinds of which there is none.
 QString pictureSource(const InputFile& file);
 /// The symbol that stands for the file's kind.
 QString kindSymbol(const InputFile& file);

@@ -19,6 +19,15 @@ ScanResult scanned(const std::vector<std::filesystem::path>& paths, std::stop_to
     return FolderScanner{std::move(options)}.scan(paths, std::move(stop));
 }
 
+/// On a tool's card: how many of what it would work on.
+QString filesText(const KindCounts& all, const ToolInfo& tool, int fileCount) {
+    KindCounts counts;
+    if (tool.category == ToolCategory::images) counts.images = fileCount;
+    if (tool.category == ToolCategory::pdf && fileCount == all.pdfs) counts.pdfs = fileCount;
+    if (tool.category == ToolCategory::pdf && fileCount == all.images) counts.images = fileCount;
+    return texts::files(counts, static_cast<std::size_t>(fileCount));
+}
+
 int othersAmong(std::size_t files, const KindCounts& counts) {
     return static_cast<int>(files) - counts.images - counts.videos - counts.audio - counts.pdfs - counts.documents;
 }
@@ -112,7 +121,7 @@ void IntakeModel::describe() {
     std::vector<ToolListModel::Entry> best, others;
     for (const auto& [tool, fileCount] : fittingTools(scan_.files)) {
         auto& list = best.size() < bestCount ? best : others;
-        list.push_back({tool, texts::filesFor(*tool, scan_.files, fileCount)});
+        list.push_back({tool, filesText(counts, *tool, fileCount)});
     }
     best_.setEntries(std::move(best));
     others_.setEntries(std::move(others));

@@ -1,0 +1,98 @@
+#include <Tamble/Desktop/Pictures/FilePictures.h>
+
+#include <TambleCore/Support/FileURL.h>
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QStringList>
+
+namespace tamble {
+namespace {
+
+struct Request {
+    FilePictures::Wanted wanted;
+    /// Of a thumbnail, whose size is then exactly this one.
+    std::optional<double> radius;
+    QSize size;
+};
+
+constexpr int usualSide = 256;
+
+/// A photo is asked for larger than a thumbnail, so that it fills the shorter side as well; a panorama more
+/// than twice as long as high is drawn a little softer.
+constexpr int sizes = 2;
+
+std::optional<Request> parsed(const QString& id, const QSize& requestedSize) {
+    Request request;
+    QString rest = id;
+    const auto take = [&rest] {
+        const QString first = rest.section(QLatin1Char('/'), 0, 0);
+        rest = rest.section(QLatin1Char('/'), 1);
+        return first;
+    };
+    QString kind = take();
+    if (kind == QLatin1String("thumb")) {
+        request.radius = take().toDouble();
+        kind = take();
+    }
+    request.size = requestedSize.isEmpty() ? QSize(usualSide, usualSide) : requestedSize;
+    request.wanted.kind = kind == QLatin1String("photo") ? FilePictures::Wanted::Kind::photo : FilePictures::Wanted::Kind::page;
+    if (kind == QLatin1String("page")) request.wanted.page = take().toInt();
+    request.wanted.pixels = std::min(longestPreviewSide, std::max(request.size.width(), request.size.height()) * (request.radius ? sizes : 1));
+    const auto path = percentDecoded(rest.toStdString());
+    if (!path) return std::nullopt;
+    request.wanted.file = *path;
+    return request;
+}
+
+/// Cut to fill the size, with round corners; of a page its upper part.
+QImage thumbnail(const QImage& picture, const Request& request) {
+    QImage result(request.size, QImage::Format_ARGB32_Premultiplied);
+    result.fill(Qt::transparent);
+    if (picture.isNull()) return result;
+    QPainter painter(&result);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    QPainterPath shape;
+    shape.addRoundedRect(QRectF(QPointF(), request.size), *request.radius, *request.radius);
+    painter.setClipPath(shape);
+    const QSize filled = picture.size().scaled(request.size, Qt::KeepAspectRatioByExpanding);
+    const int top = request.wanted.kind == FilePictures::Wanted::Kind::page ? 0 : (request.size.height() - filled.height()) / 2;
+    painter.drawImage(QRect(QPoint((request.size.width() - filled.width()) / 2, top), filled), picture);
+    return result;
+}
+
+/// Is deleted by the toolkit once it has answered, also when its picture is no longer wanted.
+class Response final : public QQuickImageResponse {
+  public:
+    Response(std::shared_ptr<FilePictures> pictures, std::optional<Request> request)
+        : pictures_(std::move(pictures)), request_(std::move(request)) {}
+
+    void begin() {
+        pictures_->pool().start([this, stop = stop_.get_token()] {
+            if (request_) {
+                const QImage picture = pictures_->picture(request_->wanted, stop);
+                image_ = request_->radius && !picture.isNull() ? thumbnail(picture, *request_) : picture;
+            }
+            emit finished();
+        });
+    }
+    QQuickTextureFactory* textureFactory() const override { return QQuickTextureFactory::textureFactoryForImage(image_); }
+    QString errorString() const override { return image_.isNull() ? QStringLiteral("no picture") : QString(); }
+    void cancel() override { stop_.request_stop(); }
+
+  private:
+    std::shared_ptr<FilePictures> pictures_;
+    std::optional<Request> request_;
+    std::stop_source stop_;
+    QImage image_;
+};
+
+}  // namespace
+
+QQuickImageResponse* FilePictureProvider::requestImageResponse(const QString& id, const QSize& requestedSize) {
+    auto response = std::make_unique<Response>(pictures_, parsed(id, requestedSize));
+    response->begin();
+    return response.release();
+}
+
+}  // namespace tamble

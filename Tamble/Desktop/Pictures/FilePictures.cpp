@@ -1,0 +1,69 @@
+#include <Tamble/Desktop/Pictures/FilePictures.h>
+
+#include <TambleCore/Jobs/UndoRecord.h>
+
+namespace tamble {
+namespace {
+
+/// Enough for a few screens of thumbnails and a few large previews.
+constexpr int keptKibibytes = 160 << 10;
+constexpr int atOnce = 2;
+
+QByteArray keyOf(const FilePictures::Wanted& wanted) {
+    const auto state = FileFingerprint::of(wanted.file);
+    return QByteArray::fromStdString(fmt::format("{}|{}|{}|{}|{}|{:.4f}", static_cast<int>(wanted.kind), wanted.page,
+                                                 wanted.pixels, wanted.file.native(), state ? state->size : -1,
+                                                 state ? state->modified : 0.0));
+}
+
+}  // namespace
+
+FilePictures::FilePictures(std::shared_ptr<WorkerPool> workers) : previewer_(std::move(workers)), kept_(keptKibibytes) {
+    pool_.setMaxThreadCount(atOnce);
+}
+
+FilePictures::~FilePictures() {
+    pool_.clear();
+    pool_.waitForDone();
+}
+
+QImage FilePictures::picture(const Wanted& wanted, std::stop_token stop) {
+    if (stop.stop_requested()) return {};
+    const QByteArray key = keyOf(wanted);
+    Secrets secrets;
+    {
+        const QMutexLocker lock(&mutex_);
+        if (const QImage* kept = kept_.object(key)) return *kept;
+        secrets = secrets_;
+    }
+    try {
+        const InputFile file{.url = FilePath(wanted.file), .root = FilePath(wanted.file.parent_path())};
+        QImage image = imageOf(wanted.kind == Wanted::Kind::photo
+                                   ? previewer_.photo(file, wanted.pixels, stop)
+                                   : previewer_.page(file, wanted.page, wanted.pixels, secrets, stop));
+        const QMutexLocker lock(&mutex_);
+        kept_.insert(key, std::make_unique<QImage>(image).release(), std::max(1, static_cast<int>(image.sizeInBytes() >> 10)));
+        return image;
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+void FilePictures::setPassword(const std::string& password) {
+    const QMutexLocker lock(&mutex_);
+    secrets_.password = password;
+}
+
+void FilePictures::clear() {
+    const QMutexLocker lock(&mutex_);
+    kept_.clear();
+}
+
+QImage imageOf(const PreviewPicture& picture) {
+    const auto format = picture.channels == 4 ? QImage::Format_RGBA8888 : QImage::Format_RGB888;
+    const qsizetype stride = static_cast<qsizetype>(picture.width) * picture.channels;
+    const QImage view(picture.samples.data(), picture.width, picture.height, stride, format);
+    return view.convertToFormat(picture.channels == 4 ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+}
+
+}  // namespace tamble

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QQuickImageProvider>
+
+namespace tamble {
+
+/// The window's symbols in any colour: "image://symbol/NAME/RRGGBB".
+class SymbolProvider final : public QQuickImageProvider {
+  public:
+    SymbolProvider() : QQuickImageProvider(Image) {}
+    QImage requestImage(const QString& id, QSize* size, const QSize& requestedSize) override;
+};
+
+/// The soft shadow of a rounded rectangle, to be stretched between its corners:
+/// "image://shadow/RADIUS/BLUR/RRGGBBAA" in pixels.
+class ShadowProvider final : public QQuickImageProvider {
+  public:
+    ShadowProvider() : QQuickImageProvider(Image) {}
+    QImage requestImage(const QString& id, QSize* size, const QSize& requestedSize) override;
+};
+
+}  // namespace tamble

@@ -1,0 +1,68 @@
+import QtQuick
+import QtQuick.Templates as T
+
+T.Button {
+    id: root
+
+    property string kind: "plain" // plain, main, quiet, danger
+    property bool big: false
+    property string sign
+
+    readonly property bool main: kind === "main"
+    readonly property color inkColor: main ? Theme.onBrand : kind === "danger" ? Theme.bad : kind === "quiet" ? Theme.ink2 : Theme.ink
+
+    implicitHeight: big ? Theme.mainControl : Theme.control
+    implicitWidth: Math.max(implicitHeight, contentItem.implicitWidth + leftPadding + rightPadding)
+    leftPadding: big ? 24 : 16
+    rightPadding: leftPadding
+    opacity: enabled ? 1 : 0.45
+    hoverEnabled: true
+    font { family: Theme.family; pixelSize: big ? Theme.strongSize : Theme.bodySize; weight: Font.DemiBold }
+    Accessible.name: text
+    Accessible.role: Accessible.Button
+
+    contentItem: Item {
+        implicitWidth: row.implicitWidth
+
+        Row {
+            id: row
+
+            anchors.centerIn: parent
+            spacing: Theme.space2
+
+            Sign {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.sign
+                name: root.sign
+                color: root.inkColor
+                size: 18
+            }
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                width: Math.min(implicitWidth, root.width > 0 ? root.width - root.leftPadding - root.rightPadding - (root.sign ? 26 : 0) : implicitWidth)
+                text: root.text
+                font: root.font
+                color: root.inkColor
+                elide: Text.ElideRight
+                textFormat: Text.PlainText
+                Accessible.ignored: true
+            }
+        }
+    }
+
+    background: Rectangle {
+        radius: root.big ? 12 : Theme.controlRadius
+        color: root.main ? (root.hovered ? Theme.brandHover : Theme.brand)
+               : root.kind === "quiet" ? (root.hovered ? Theme.hover : "transparent")
+               : root.hovered ? Theme.hover : Theme.surface
+        border { width: root.main || root.kind === "quiet" ? 0 : 1; color: Theme.line }
+        scale: root.down ? 0.98 : 1
+
+        Behavior on color { ColorAnimation { duration: Theme.quick } }
+        Behavior on scale { NumberAnimation { duration: Theme.quick } }
+
+        FocusRing { of: root; around: parent.radius }
+    }
+
+    HoverHandler { cursorShape: Qt.PointingHandCursor }
+}

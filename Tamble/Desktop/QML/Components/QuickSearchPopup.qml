@@ -1,0 +1,123 @@
+import QtQuick
+import QtQuick.Templates as T
+
+// Finds a tool while people type; Enter opens it with what was dropped.
+T.Popup {
+    id: root
+
+    parent: T.Overlay.overlay
+    x: Math.round((parent.width - width) / 2)
+    y: Math.min(110, parent.height / 8)
+    width: Math.min(600, parent.width - 48)
+    padding: 10
+    modal: true
+    focus: true
+    onAboutToShow: {
+        field.text = ""
+        App.search.query = ""
+        field.forceActiveFocus()
+    }
+
+    T.Overlay.modal: Rectangle { color: Theme.scrim }
+
+    function start(index) {
+        const id = App.search.tools.toolAt(index)
+        if (!id)
+            return
+        close()
+        App.openTool(id)
+    }
+
+    contentItem: Column {
+        spacing: Theme.space2
+
+        TextBox {
+            id: field
+
+            width: parent.width
+            implicitHeight: 48
+            leftPadding: 44
+            font.pixelSize: Theme.strongSize
+            placeholderText: qsTr("What would you like to do?")
+            Accessible.name: placeholderText
+            onTextEdited: {
+                App.search.query = text
+                list.currentIndex = 0
+            }
+            Keys.onDownPressed: list.incrementCurrentIndex()
+            Keys.onUpPressed: list.decrementCurrentIndex()
+            onAccepted: root.start(list.currentIndex)
+            background: Item {}
+
+            Sign { x: 14; anchors.verticalCenter: parent.verticalCenter; name: "ui.search"; size: 20 }
+        }
+        Divider { width: parent.width }
+        ListView {
+            id: list
+
+            width: parent.width
+            height: Math.min(contentHeight, Math.max(120, root.parent.height - root.y - 160))
+            model: App.search.tools
+            clip: true
+            T.ScrollBar.vertical: ScrollLine {}
+
+            delegate: T.ItemDelegate {
+                id: row
+
+                required property int index
+                required property string title
+                required property string subtitle
+                required property string symbol
+                required property string category
+                required property bool available
+
+                width: list.width
+                height: 52
+                hoverEnabled: true
+                highlighted: list.currentIndex === index
+                opacity: available ? 1 : 0.6
+                text: title
+                Accessible.name: title
+                Accessible.description: subtitle
+                onClicked: root.start(index)
+                onHoveredChanged: if (hovered) list.currentIndex = index
+
+                contentItem: Item {
+                    Tile { id: tile; anchors.verticalCenter: parent.verticalCenter; x: 8; size: 36; symbol: row.symbol; category: row.category }
+                    Column {
+                        anchors { left: tile.right; leftMargin: 12; right: hint.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
+
+                        Label { width: parent.width; text: row.title; font.weight: Font.DemiBold; elide: Text.ElideRight; Accessible.ignored: true }
+                        Label { width: parent.width; quiet: true; text: row.subtitle; elide: Text.ElideRight; Accessible.ignored: true }
+                    }
+                    Label {
+                        id: hint
+
+                        anchors { right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
+                        kind: "caption"
+                        quiet: true
+                        text: row.available ? (row.highlighted ? qsTr("Enter ↵") : "") : qsTr("Not yet")
+                        Accessible.ignored: true
+                    }
+                }
+                background: Rectangle { radius: 12; color: row.highlighted ? Theme.hover : "transparent" }
+            }
+        }
+        Label {
+            width: parent.width
+            visible: list.count === 0
+            padding: Theme.space5
+            quiet: true
+            text: qsTr("No tool does that. Try another word, like “shrink” or “rotate”.")
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+        }
+    }
+
+    background: Surface {
+        radius: 20
+        border { width: 1; color: Theme.line }
+    }
+
+    enter: Transition { NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.quick } }
+}

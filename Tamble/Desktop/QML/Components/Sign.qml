@@ -1,0 +1,14 @@
+import QtQuick
+
+// A symbol in one colour.
+Image {
+    property string name
+    property color color: Theme.ink2
+    property int size: 20
+
+    width: size
+    height: size
+    sourceSize: Qt.size(size * Screen.devicePixelRatio, size * Screen.devicePixelRatio)
+    source: name ? "image://symbol/" + name + "/" + color.toString().slice(-6) : ""
+    Accessible.ignored: true
+}

@@ -1,0 +1,9 @@
+import QtQuick
+
+// A white card that other things stand on.
+Rectangle {
+    radius: Theme.cardRadius
+    color: Theme.surface
+
+    Shadow { radius: parent.radius }
+}

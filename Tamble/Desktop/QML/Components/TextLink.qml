@@ -1,0 +1,25 @@
+import QtQuick
+import QtQuick.Templates as T
+
+// A quiet word that leads somewhere.
+T.AbstractButton {
+    id: root
+
+    implicitWidth: label.implicitWidth
+    implicitHeight: label.implicitHeight
+    hoverEnabled: true
+    Accessible.name: text
+    Accessible.role: Accessible.Link
+
+    contentItem: Label {
+        id: label
+
+        text: root.text
+        quiet: !root.hovered
+        font { weight: Font.Medium; underline: root.hovered }
+        Accessible.ignored: true
+    }
+    background: Item { FocusRing { of: root; around: 2 } }
+
+    HoverHandler { cursorShape: Qt.PointingHandCursor }
+}

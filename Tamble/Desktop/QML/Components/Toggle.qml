@@ -1,0 +1,66 @@
+import QtQuick
+import QtQuick.Templates as T
+
+// On or off, with what it means.
+T.Switch {
+    id: root
+
+    property string description
+    property string category
+
+    implicitHeight: Math.max(Theme.control, texts.implicitHeight + 12)
+    hoverEnabled: true
+    Accessible.name: text
+    Accessible.description: description
+
+    indicator: Rectangle {
+        x: root.mirrored ? 0 : root.width - width
+        y: (root.height - height) / 2
+        width: 40
+        height: 24
+        radius: 12
+        color: root.checked ? (root.category ? Theme.hue(root.category) : Theme.brand) : Theme.line
+
+        Behavior on color { ColorAnimation { duration: Theme.quick } }
+
+        Rectangle {
+            x: (root.checked !== root.mirrored) ? parent.width - width - 3 : 3
+            y: 3
+            width: 18
+            height: 18
+            radius: 9
+            color: "#FFFFFF"
+
+            Behavior on x { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
+        }
+        FocusRing { of: root; around: 12 }
+    }
+
+    contentItem: Column {
+        id: texts
+
+        topPadding: Math.max(0, (root.height - (name.implicitHeight + (detail.visible ? detail.implicitHeight : 0))) / 2)
+
+        Label {
+            id: name
+
+            width: parent.width - 56
+            text: root.text
+            font.weight: Font.Medium
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+        Label {
+            id: detail
+
+            width: parent.width - 56
+            visible: text
+            quiet: true
+            text: root.description
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+    }
+
+    HoverHandler { cursorShape: Qt.PointingHandCursor }
+}

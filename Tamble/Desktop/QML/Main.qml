@@ -1,0 +1,116 @@
+import QtQuick
+import QtQuick.Templates as T
+
+T.ApplicationWindow {
+    id: root
+
+    readonly property bool narrow: width < 980
+    readonly property int margin: width < 900 ? 20 : 36
+
+    visible: true
+    width: App.windowSize.width
+    height: App.windowSize.height
+    minimumWidth: 720
+    minimumHeight: 520
+    title: "Tamble"
+    color: Theme.paper
+    font { family: Theme.family; pixelSize: Theme.bodySize }
+
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+
+    onClosing: close => {
+        App.rememberWindow(width, height, visibility === Window.Maximized)
+        if (App.job.isRunning) {
+            close.accepted = false
+            quitGuard.open()
+        }
+    }
+
+    Sidebar {
+        id: sidebar
+
+        anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
+        narrow: root.narrow
+        onSearchRequested: search.open()
+    }
+
+    ScreenStack {
+        id: screens
+
+        anchors { left: sidebar.right; right: parent.right; top: parent.top; bottom: parent.bottom }
+        margin: root.margin
+    }
+
+    DropCatcher {
+        anchors.fill: parent
+    }
+
+    QuickSearchPopup {
+        id: search
+    }
+
+    Toast {
+        id: toast
+
+        property string undoID
+
+        anchors { horizontalCenter: screens.horizontalCenter; bottom: parent.bottom; bottomMargin: 96 }
+        onAction: App.activity.undo(undoID)
+    }
+
+    Question {
+        id: quitGuard
+
+        mood: "working"
+        heading: qsTr("A job is still running")
+        explanation: qsTr("If you quit now, it stops and nothing is saved. If it has already started saving, Tamble finishes that first, then quits.")
+        yes: qsTr("Quit")
+        no: qsTr("Keep working")
+        onAgreed: App.quitAfterJob()
+    }
+
+    Connections {
+        target: App
+        function onSaid(sentence) { toast.say(sentence) }
+        function onRaiseRequested() {
+            root.show()
+            root.raise()
+            root.requestActivate()
+        }
+    }
+    Connections {
+        target: App.activity
+        function onUndone(id, report) { toast.say(report) }
+        function onInterrupted(sentence, id) {
+            toast.undoID = id
+            interruption.sentences = interruption.sentences.concat([{ "text": sentence, "id": id }])
+        }
+    }
+
+    // What a job left behind whose program died: it stays until it is answered.
+    Question {
+        id: interruption
+
+        property var sentences: []
+        readonly property var first: sentences.length > 0 ? sentences[0] : null
+
+        mood: "sorry"
+        heading: qsTr("A job was interrupted")
+        explanation: first ? first.text : ""
+        yes: first && first.id ? qsTr("Put everything back") : qsTr("All right")
+        no: first && first.id ? qsTr("Leave it as it is") : qsTr("Show activity")
+        onSentencesChanged: if (first && !opened) open()
+        onAgreed: { if (first.id) App.activity.undo(first.id); next() }
+        onRefused: { if (!first.id) App.navigator.open(Navigator.Activity); next() }
+
+        function next() { sentences = sentences.slice(1) }
+    }
+
+    Shortcut { sequences: ["Ctrl+K", "Ctrl+Alt+Z"]; enabled: !App.job.isRunning; onActivated: search.open() }
+    Shortcut { sequences: [StandardKey.Paste]; enabled: !search.opened; onActivated: App.paste() }
+    Shortcut { sequences: [StandardKey.Quit]; onActivated: root.close() }
+    Shortcut { sequences: [StandardKey.Open]; onActivated: FileChooser.files() }
+    Shortcut { sequences: [StandardKey.Back, "Alt+Left"]; enabled: !App.job.isRunning; onActivated: App.navigator.back() }
+    Shortcut { sequences: [StandardKey.Preferences, "Ctrl+,"]; enabled: !App.job.isRunning; onActivated: App.navigator.open(Navigator.Settings) }
+}

@@ -1,0 +1,5 @@
+#include <Tamble/Desktop/App/Desktop.h>
+
+int main(int argumentCount, char** arguments) {
+    return tamble::runDesktop(argumentCount, arguments);
+}
