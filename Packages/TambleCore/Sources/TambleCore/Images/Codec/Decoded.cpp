@@ -39,10 +39,10 @@ std::optional<vips::VImage> thumbnailOf(const vips::VImage& whole, ByteView file
         const auto [width, height] = sizeOf(small);
         const bool isSmaller = width < whole.width() && height < whole.height();
         if (!isSmaller || width < size.width || height < size.height) return std::nullopt;
-        // Of another shape or with other colours it shows something else.
+        // Of another shape, beyond sides made even, or with other colours it shows something else.
         const auto skew =
             std::abs(std::int64_t{width} * whole.height() - std::int64_t{height} * whole.width());
-        const bool looksAlike = skew <= sizeOf(whole).longestSide() && small.bands() == whole.bands() &&
+        const bool looksAlike = skew <= 2 * sizeOf(whole).longestSide() && small.bands() == whole.bands() &&
                                 hasProfile(small) == hasProfile(whole);
         return looksAlike ? std::optional(small) : std::nullopt;
     } catch (const ConversionError&) {
