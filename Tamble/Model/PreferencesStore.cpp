@@ -8,8 +8,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <stdlib.h>
-
 namespace tamble {
 namespace {
 
@@ -182,12 +180,6 @@ void PreferencesStore::update(const std::function<void(Json&)>& change) {
         change(changed);
         return changed;
     });
-}
-
-void useHelpers(const PreferencesStore& preferences) {
-    const auto model = preferences.subjectModel();
-    std::error_code ignored;
-    if (std::filesystem::exists(model, ignored)) ::setenv("TAMBLE_SUBJECT_MODEL", model.c_str(), 0);
 }
 
 }  // namespace tamble

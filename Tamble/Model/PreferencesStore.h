@@ -78,8 +78,4 @@ class PreferencesStore {
     SharedFile file_;
 };
 
-/// Lets the engine work with the chosen network from its next start on: to be called before any other thread
-/// is started. What the environment names goes first.
-void useHelpers(const PreferencesStore& preferences);
-
 }  // namespace tamble

@@ -1,3 +1,4 @@
+#include <Tamble/Model/ChosenHelpers.h>
 #include <Tamble/Model/ProtectedWork.h>
 
 #include <TambleCore/Jobs/Isolation/IsolatedWork.h>
@@ -17,6 +18,7 @@ bool worksInProcess() {
 ToolWork protectedWork(const ToolDefinition& tool, const Json& settings, const Secrets& secrets,
                        const std::shared_ptr<WorkerPool>& pool) {
     if (worksInProcess()) return tool.makeWork(settings, secrets);
+    pool->setEnvironment(chosenHelpers(PreferencesStore()));
     return isolatedWork(tool, settings, secrets, pool);
 }
 

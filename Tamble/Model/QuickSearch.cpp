@@ -87,9 +87,9 @@ void QuickSearch::add(std::string_view text, Place place) {
         const std::size_t end = std::min(text.find(','), text.size());
         const Words words = searchWords(text.substr(0, end));
         for (const auto& word : words) words_[word].push_back(place);
-        const bool isPhrase =
-            place.field == Field::title || (place.field == Field::keyword && words.size() > 1);
-        if (isPhrase) phrases_.push_back({joined(withoutFillWords(words)), place});
+        const Words telling = withoutFillWords(words);
+        const bool isKeyword = place.field == Field::keyword && telling.size() > 1;
+        if (place.field == Field::title || isKeyword) phrases_.push_back({joined(telling), place});
         text.remove_prefix(std::min(end + 1, text.size()));
     }
 }

@@ -30,6 +30,13 @@ bool isAnotherForm(std::u32string_view typed, std::u32string_view word) {
     });
 }
 
+/// Few letters in the middle of a word mean nothing.
+bool isInside(std::u32string_view typed, std::u32string_view word) {
+    const bool hasEnd = typed.size() >= 3 && word.ends_with(typed);
+    const bool isLong = typed.size() >= 5 || typed.front() >= firstOfShortWords;
+    return hasEnd || (isLong && word.find(typed) != std::u32string_view::npos);
+}
+
 std::size_t forgivenMistakes(std::size_t letters) {
     return letters < 4 ? 0 : letters < 8 ? 1 : 2;
 }
@@ -45,9 +52,7 @@ WordMatch literalMatch(std::u32string_view typed, std::u32string_view word) {
     if (typed == word) return WordMatch::same;
     if (isAnotherForm(typed, word)) return WordMatch::anotherForm;
     if (word.starts_with(typed)) return WordMatch::beginning;
-    const std::size_t enough = typed.front() >= firstOfShortWords ? 1 : 3;
-    const bool isInside = typed.size() >= enough && word.find(typed) != std::u32string_view::npos;
-    return isInside ? WordMatch::inside : WordMatch::none;
+    return isInside(typed, word) ? WordMatch::inside : WordMatch::none;
 }
 
 WordMatch forgivingMatch(std::u32string_view typed, std::u32string_view word) {

@@ -1,5 +1,4 @@
 #include <Tamble/Model/ActivityStore.h>
-#include <Tamble/Model/PreferencesStore.h>
 
 #include <TambleCore/Jobs/CopyThroughProcessor.h>
 #include <TambleCore/Platform/SystemFileOperations.h>
@@ -212,24 +211,6 @@ TEST(ActivityTexts, SayWhatPeopleRead) {
     for (const char* wrong : {"2026-11-13 09:41:00Z", "2026-13-13T09:41:00Z", "2026-11-13T0a:41:00Z", ""}) {
         EXPECT_FALSE(timeOfISODate(wrong)) << wrong;
     }
-}
-
-TEST(Preferences, AreRememberedAndDefaulted) {
-    const TestFolder folder;
-    PreferencesStore preferences;
-    EXPECT_EQ(preferences.saveFolders(), SavePreferences::forFolders());
-    EXPECT_EQ(preferences.saveLooseFiles(), SavePreferences::forLooseFiles());
-    EXPECT_TRUE(preferences.rememberFolderChoice());
-    std::filesystem::create_directories(PreferencesStore::defaultFile().parent_path());
-    std::ofstream(PreferencesStore::defaultFile())
-        << R"({"a.later.version": [1], "save.folders": {"mode": "none"}})";
-    EXPECT_EQ(preferences.saveFolders(), SavePreferences::forFolders());
-    SavePreferences replacing{.mode = SavePreferences::Mode::replace, .clashPolicy = ClashPolicy::skip};
-    preferences.setSaveFolders(replacing);
-    preferences.setRememberFolderChoice(false);
-    EXPECT_EQ(PreferencesStore().saveFolders(), replacing);
-    EXPECT_FALSE(PreferencesStore().rememberFolderChoice());
-    EXPECT_THAT(contentOf(PreferencesStore::defaultFile()), testing::HasSubstr("a.later.version"));
 }
 
 }  // namespace

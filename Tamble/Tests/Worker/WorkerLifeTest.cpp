@@ -69,6 +69,29 @@ TEST_F(IsolationTest, WorkersAreUsedAgainAndEndWithThePool) {
     EXPECT_THAT(childrenOf(::getpid()), testing::IsEmpty());
 }
 
+TEST_F(IsolationTest, WorkersHaveTheEnvironmentOfTheirPool) {
+    ::setenv("TAMBLE_TEST_VARIABLE", "the program's", 1);
+    const auto shared = std::make_shared<WorkerPool>(limits_, MISBEHAVING_WORKER);
+    const auto work =
+        isolatedWork(*misbehavingTool("test.each"), encodeJson(MisbehavingSettings{}), {}, shared);
+    const auto& processor = *std::get<std::unique_ptr<FileProcessor>>(work);
+    const auto environmentAfter = [&](Environment environment) {
+        shared->setEnvironment(std::move(environment));
+        EXPECT_EQ(outcomeOf(processor, input("a"), staging() / "a"), "done");
+        const auto children = childrenOf(::getpid());
+        EXPECT_EQ(children.size(), 1U) << "one with another environment is let go";
+        std::string text = contentOf("/proc/" + std::to_string(children.front()) + "/environ");
+        std::ranges::replace(text, '\0', '\n');
+        return text;
+    };
+    EXPECT_THAT(environmentAfter({}), testing::HasSubstr("TAMBLE_TEST_VARIABLE=the program's\n"));
+    const auto changed = environmentAfter({{"TAMBLE_TEST_VARIABLE", "the pool's"}, {"ANOTHER", "=too"}});
+    EXPECT_THAT(changed, testing::HasSubstr("TAMBLE_TEST_VARIABLE=the pool's\n"));
+    EXPECT_THAT(changed, testing::HasSubstr("\nANOTHER==too\n"));
+    EXPECT_THAT(changed, testing::Not(testing::HasSubstr("the program's")));
+    ::unsetenv("TAMBLE_TEST_VARIABLE");
+}
+
 TEST_F(IsolationTest, SpareWorkersWaitForCallsWithTheirPermit) {
     const auto other = folder() / "TambleStaging-2";
     std::filesystem::create_directories(other);

@@ -11,6 +11,10 @@ namespace {
 constexpr std::array<ToolKind, 6> forImages{ImageTool::convert, ImageTool::compress,
                                             ImageTool::resize,  ImageTool::removeMetadata,
                                             ImageTool::rotate,  ImageTool::removeBackground};
+/// Of fewer places, one is for what is done before photos and papers are handed on together.
+constexpr std::array<ToolKind, 6> forImagesAmongOthers{
+    ImageTool::convert, ImageTool::compress, ImageTool::removeMetadata,
+    ImageTool::resize,  ImageTool::rotate,   ImageTool::removeBackground};
 constexpr std::array<ToolKind, 3> forImagesElsewhere{PDFTool::fromImages, SmartTool::ocr, FileTool::rename};
 constexpr std::array<ToolKind, 8> forVideos{VideoTool::compress,     VideoTool::convert, VideoTool::trim,
                                             VideoTool::extractAudio, VideoTool::gif,     VideoTool::mute,
@@ -65,9 +69,10 @@ class Gathered {
 }  // namespace
 
 std::vector<ToolInfo> suggestedTools(const KindCounts& counts) {
+    const bool isMixed = counts.images < counts.total();
     const bool isLonely = counts.pdfs + counts.images == 1;
     std::vector<Suggestion> suggestions{
-        {counts.images, runnable(forImages, forImagesElsewhere)},
+        {counts.images, runnable(isMixed ? forImagesAmongOthers : forImages, forImagesElsewhere)},
         {counts.videos, runnable(forVideos)},
         {counts.audio, runnable(forAudio)},
         {counts.pdfs, isLonely ? runnable(forOnePDF) : runnable(forPDFs)},

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
@@ -13,7 +14,7 @@ namespace {
 
 /// Letters that Unicode does not take apart, as they are typed without them.
 struct PlainLetter {
-    UChar32 letter;
+    char32_t letter;
     std::u32string_view plain;
 };
 constexpr std::array<PlainLetter, 7> plainLetters{
@@ -29,39 +30,52 @@ icu::UnicodeString folded(std::string_view text) {
     return U_SUCCESS(status) ? form : unicode.foldCase();
 }
 
-bool isAccent(UChar32 character) {
-    const auto kind = u_charType(character);
+/// ASCII needs none of the library's tables, which take a while to be read in.
+std::u32string foldedLetters(std::string_view text) {
+    if (isASCII(text)) {
+        const std::string lower = lowercased(text);
+        return {lower.begin(), lower.end()};
+    }
+    const icu::UnicodeString form = folded(text);
+    std::u32string letters;
+    for (std::int32_t i = 0; i < form.length(); i = form.moveIndex32(i, 1)) {
+        letters += static_cast<char32_t>(form.char32At(i));
+    }
+    return letters;
+}
+
+bool isLetterOrDigit(char32_t character) {
+    const auto letter = static_cast<UChar32>(character);
+    return u_isUAlphabetic(letter) || u_isalnum(letter);
+}
+
+bool isAccent(char32_t character) {
+    const auto kind = u_charType(static_cast<UChar32>(character));
     return kind == U_NON_SPACING_MARK || kind == U_ENCLOSING_MARK;
 }
 
-void append(std::u32string& word, UChar32 letter) {
+void append(std::u32string& word, char32_t letter) {
     const auto plain = std::ranges::find(plainLetters, letter, &PlainLetter::letter);
     if (plain != plainLetters.end()) {
         word += plain->plain;
     } else {
-        word += static_cast<char32_t>(letter);
+        word += letter;
     }
 }
 
 }  // namespace
 
 std::vector<std::u32string> searchWords(std::string_view text) {
-    const icu::UnicodeString letters = folded(text);
     std::vector<std::u32string> words;
-    std::u32string word;
-    const auto endWord = [&] {
-        if (!word.empty()) words.push_back(std::move(word));
-        word.clear();
-    };
-    for (std::int32_t i = 0; i < letters.length(); i = letters.moveIndex32(i, 1)) {
-        const UChar32 character = letters.char32At(i);
-        if (u_isUAlphabetic(character) || u_isalnum(character)) {
-            append(word, character);
+    bool isInWord = false;
+    for (const char32_t character : foldedLetters(text)) {
+        if (isLetterOrDigit(character)) {
+            if (!std::exchange(isInWord, true)) words.emplace_back();
+            append(words.back(), character);
         } else if (!isAccent(character) && character != U'\'' && character != U'’') {
-            endWord();
+            isInWord = false;
         }
     }
-    endWord();
     return words;
 }
 

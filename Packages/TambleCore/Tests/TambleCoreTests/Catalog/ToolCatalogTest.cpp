@@ -1,10 +1,10 @@
 #include <TambleCore/Catalog/Suggestions.h>
 #include <TambleCore/Catalog/ToolCatalog.h>
 
+#include <set>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <set>
 
 namespace tamble {
 namespace {
@@ -78,10 +78,36 @@ TEST(ToolCatalog, EveryChoiceOfAPanelGivesSettingsThatTheToolTakes) {
 }
 
 TEST(Suggestions, LeadWithTheMostFrequentKindAndNameOnlyToolsThatRun) {
-    const auto tools = suggestedTools({.images = 3, .pdfs = 1});
-    ASSERT_FALSE(tools.empty());
-    EXPECT_EQ(tools.front().id, "image.convert");
-    for (const auto& tool : tools) EXPECT_EQ(ToolCatalog::unavailableReason(tool.id), "") << tool.id;
+    const auto ids = [](const KindCounts& counts) {
+        std::vector<std::string> suggested;
+        for (const auto& tool : suggestedTools(counts)) {
+            EXPECT_EQ(ToolCatalog::unavailableReason(tool.id), "") << tool.id;
+            EXPECT_EQ(std::ranges::count(suggested, tool.id), 0) << tool.id;
+            suggested.push_back(tool.id);
+        }
+        return suggested;
+    };
+    const auto firstFour = [&](const KindCounts& counts) {
+        auto first = ids(counts);
+        first.resize(std::min<std::size_t>(first.size(), 4));
+        return first;
+    };
+    using testing::ElementsAre;
+    EXPECT_THAT(firstFour({.images = 128}),
+                ElementsAre("image.convert", "image.compress", "image.resize", "image.removeMetadata"));
+    // The best for the second kind is among the first.
+    EXPECT_THAT(firstFour({.images = 128, .pdfs = 3}),
+                ElementsAre("image.convert", "image.compress", "image.removeMetadata", "pdf.merge"));
+    EXPECT_THAT(firstFour({.images = 1, .pdfs = 2}),
+                ElementsAre("pdf.merge", "pdf.compress", "pdf.split", "image.convert"));
+    EXPECT_THAT(firstFour({.images = 9, .pdfs = 8, .documents = 7}),
+                ElementsAre("image.convert", "image.compress", "pdf.merge", "files.rename"));
+    // One PDF has nothing to be combined with; with a photo it has.
+    EXPECT_THAT(firstFour({.pdfs = 1}), ElementsAre("pdf.compress", "pdf.sign", "pdf.split", "pdf.organize"));
+    EXPECT_EQ(firstFour({.images = 1, .pdfs = 1}).at(3), "pdf.merge");
+    EXPECT_EQ(ids({.images = 3, .pdfs = 1}).size(), ids({.images = 1, .pdfs = 3}).size());
+    // What no tool here is made for takes no place.
+    EXPECT_THAT(ids({.videos = 2}), ElementsAre("files.rename"));
     EXPECT_TRUE(suggestedTools({}).empty());
 }
 

@@ -60,6 +60,7 @@ vips::VImage opened(ByteView file, Container container, const LoadOptions& optio
     vips_area_unref(VIPS_AREA(blob));
     if (options.shrink != 1) arguments->set("shrink", options.shrink);
     if (options.page != 0) arguments->set("page", options.page);
+    if (options.thumbnail) arguments->set("thumbnail", true);
     try {
         vips::VImage::call(loader, arguments);
     } catch (const vips::VError& error) {

@@ -12,6 +12,8 @@ struct LoadOptions {
     int shrink = 1;
     /// Which picture of the file.
     int page = 0;
+    /// The small picture that HEIF files hold of it, if there is one.
+    bool thumbnail = false;
 };
 
 /// The picture in the file, its header read and its rows decoded once from top to bottom when they are asked

@@ -22,7 +22,7 @@ Raster shownPicture(ByteView file, Container container, int maxPixelSize, const 
     Watch watch(context, 1);
     try {
         const vips::VImage picture = decoded(file, container, maxPixelSize, ImageJobSettings::Rotation::none,
-                                             watch, SeveralPictures::firstIsTaken);
+                                             watch, DecodedFor::screen);
         // WebP takes what a screen does: sRGB of eight bits, see-through or not.
         const vips::VImage shown =
             colouredFor(picture, ImageFormat::webp, false).image.cast(VIPS_FORMAT_UCHAR);

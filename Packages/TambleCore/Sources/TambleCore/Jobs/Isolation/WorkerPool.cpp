@@ -18,7 +18,7 @@ constexpr Log workerLog("worker");
 /// silent is a matter of each call.
 bool suits(const WorkerPermit& given, const WorkerPermit& wanted) {
     return given.writable == wanted.writable && given.needs.startsPrograms == wanted.needs.startsPrograms &&
-           given.needs.memory == wanted.needs.memory;
+           given.needs.memory == wanted.needs.memory && given.environment == wanted.environment;
 }
 
 }  // namespace
@@ -43,16 +43,27 @@ WorkerPool::WorkerPool(WorkerLimits limits, std::filesystem::path program)
 
 WorkerPool::~WorkerPool() = default;
 
+void WorkerPool::setEnvironment(Environment environment) {
+    const std::scoped_lock lock(mutex_);
+    environment_ = std::move(environment);
+}
+
 WorkerReply WorkerPool::perform(const WorkerRequest& request, const WorkerPermit& permit,
                                 const WorkContext& context) {
     context.throwIfStopped();
-    auto worker = take(permit);
+    auto worker = take(completed(permit));
     WorkerLimits limits = limits_;
     limits.processor = std::min(limits.processor, permit.needs.silence.value_or(limits.processor));
     // A worker whose conversation throws is not used again.
     auto reply = Conversation(*worker, limits, context).about(request);
     giveBack(std::move(worker));
     return reply;
+}
+
+WorkerPermit WorkerPool::completed(WorkerPermit permit) {
+    const std::scoped_lock lock(mutex_);
+    permit.environment = environment_;
+    return permit;
 }
 
 std::unique_ptr<WorkerProcess> WorkerPool::take(const WorkerPermit& permit) {

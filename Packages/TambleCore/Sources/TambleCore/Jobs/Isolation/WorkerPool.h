@@ -8,8 +8,10 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <vector>
 
 namespace tamble {
@@ -35,11 +37,16 @@ struct WorkerLimits {
     static std::uint64_t defaultMemory();
 };
 
-/// What one worker is allowed for good.
+/// Variables by name.
+using Environment = std::map<std::string, std::string>;
+
+/// What one worker is allowed and given for good.
 struct WorkerPermit {
     /// It may write only below this folder, or nowhere if that is empty.
     std::filesystem::path writable;
     WorkNeeds needs = {};
+    /// What it has beside the environment of this program; from the pool.
+    Environment environment = {};
 
     friend bool operator==(const WorkerPermit&, const WorkerPermit&) = default;
 };
@@ -73,11 +80,15 @@ class WorkerPool {
     WorkerPool(const WorkerPool&) = delete;
     WorkerPool& operator=(const WorkerPool&) = delete;
 
+    /// For the calls that begin from now on.
+    void setEnvironment(Environment environment);
+
     /// Has a worker do the request and answers its last reply. Throws WorkerLost, WorkerUnavailable, and
     /// Cancelled when a stop request had to be enforced. To be called from several threads.
     WorkerReply perform(const WorkerRequest& request, const WorkerPermit& permit, const WorkContext& context);
 
   private:
+    WorkerPermit completed(WorkerPermit permit);
     std::unique_ptr<WorkerProcess> take(const WorkerPermit& permit);
     std::unique_ptr<WorkerProcess> startWorker(const WorkerPermit& permit) const;
     void giveBack(std::unique_ptr<WorkerProcess> worker);
@@ -85,6 +96,7 @@ class WorkerPool {
     WorkerLimits limits_;
     std::filesystem::path program_;
     std::mutex mutex_;
+    Environment environment_;
     std::vector<std::unique_ptr<WorkerProcess>> idle_;
 };
 

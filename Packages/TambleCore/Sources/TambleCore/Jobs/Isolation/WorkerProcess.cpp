@@ -10,6 +10,7 @@
 #include <vector>
 
 #include <fcntl.h>
+#include <fmt/format.h>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/eventfd.h>
@@ -53,18 +54,21 @@ Ends pipeForWords() {
 }
 
 /// The environment of this program, with what differs in a worker.
-std::vector<std::string> workerEnvironment(const std::filesystem::path& writable) {
+std::vector<std::string> workerEnvironment(const WorkerPermit& permit) {
     std::vector<std::string> environment;
     for (char** entry = environ; *entry != nullptr; ++entry) {
         const std::string_view text = *entry;
         const bool differs = text.starts_with("TAMBLE_LOG=") || text.starts_with("TMPDIR=") ||
-                             text.starts_with("GLIBC_TUNABLES=");
+                             text.starts_with("GLIBC_TUNABLES=") ||
+                             permit.environment.contains(std::string(text.substr(0, text.find('='))));
         if (!differs) environment.emplace_back(text);
     }
     environment.emplace_back("TAMBLE_LOG=1");
     // The system hands out the memory of whole pictures faster in huge pages.
     environment.emplace_back("GLIBC_TUNABLES=glibc.malloc.hugetlb=1");
-    if (!writable.empty()) environment.push_back("TMPDIR=" + writable.native());
+    if (!permit.writable.empty()) environment.push_back("TMPDIR=" + permit.writable.native());
+    for (const auto& [name, value] : permit.environment)
+        environment.push_back(fmt::format("{}={}", name, value));
     return environment;
 }
 
@@ -135,7 +139,7 @@ void WorkerProcess::start(const std::filesystem::path& program, std::uint64_t me
     std::vector<std::string> arguments{program.native(), permit_.writable.native(),
                                        std::to_string(memoryLimit)};
     if (permit_.needs.startsPrograms) arguments.emplace_back(workerMayStartPrograms);
-    std::vector<std::string> environment = workerEnvironment(permit_.writable);
+    std::vector<std::string> environment = workerEnvironment(permit_);
     const int error = ::posix_spawn(&process_, program.c_str(), &plan.files, &plan.attributes,
                                     pointers(arguments).data(), pointers(environment).data());
     if (error != 0) {
