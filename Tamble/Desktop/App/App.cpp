@@ -18,6 +18,8 @@ App::App(QObject* parent)
       workers_(std::make_shared<WorkerPool>()),
       pictures_(std::make_shared<FilePictures>(std::make_shared<WorkerPool>(previewLimits()))),
       tool_(preferences_, workers_),
+      comparison_(tool_, pictures_),
+      names_(tool_),
       job_(workers_),
       preferencesModel_(preferences_) {
     instance_ = this;

@@ -2,8 +2,10 @@
 
 #include <Tamble/Desktop/App/SystemLook.h>
 #include <Tamble/Desktop/Models/ActivityModel.h>
+#include <Tamble/Desktop/Models/ComparisonModel.h>
 #include <Tamble/Desktop/Models/IntakeModel.h>
 #include <Tamble/Desktop/Models/JobModel.h>
+#include <Tamble/Desktop/Models/NamesModel.h>
 #include <Tamble/Desktop/Models/Navigator.h>
 #include <Tamble/Desktop/Models/PreferencesModel.h>
 #include <Tamble/Desktop/Models/ResultModel.h>
@@ -23,6 +25,8 @@ class App : public QObject {
     Q_PROPERTY(tamble::Navigator* navigator READ navigator CONSTANT)
     Q_PROPERTY(tamble::IntakeModel* intake READ intake CONSTANT)
     Q_PROPERTY(tamble::ToolModel* tool READ tool CONSTANT)
+    Q_PROPERTY(tamble::ComparisonModel* comparison READ comparison CONSTANT)
+    Q_PROPERTY(tamble::NamesModel* names READ names CONSTANT)
     Q_PROPERTY(tamble::JobModel* job READ job CONSTANT)
     Q_PROPERTY(tamble::ResultModel* result READ result CONSTANT)
     Q_PROPERTY(tamble::ActivityModel* activity READ activity CONSTANT)
@@ -49,6 +53,8 @@ class App : public QObject {
     Navigator* navigator() { return &navigator_; }
     IntakeModel* intake() { return &intake_; }
     ToolModel* tool() { return &tool_; }
+    ComparisonModel* comparison() { return &comparison_; }
+    NamesModel* names() { return &names_; }
     JobModel* job() { return &job_; }
     ResultModel* result() { return &result_; }
     ActivityModel* activity() { return &activity_; }
@@ -95,6 +101,8 @@ class App : public QObject {
     SystemLook look_;
     IntakeModel intake_;
     ToolModel tool_;
+    ComparisonModel comparison_;
+    NamesModel names_;
     JobModel job_;
     ResultModel result_;
     ActivityModel activity_;

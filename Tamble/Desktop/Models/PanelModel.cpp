@@ -67,9 +67,9 @@ int PanelModel::rowCount(const QModelIndex& parent) const {
 QVariantList PanelModel::shown(const std::vector<PanelChoice>& list) const {
     QVariantList result;
     for (const PanelChoice& choice : list) {
-        result << QVariantMap{{"label", texts::engine(choice.label)},
-                              {"description", texts::engine(choice.description)},
-                              {"chosen", PanelState::isChosen(choice, session_->settings())}};
+        result << QVariantMap{{QStringLiteral("label"), texts::engine(choice.label)},
+                              {QStringLiteral("description"), texts::engine(choice.description)},
+                              {QStringLiteral("chosen"), PanelState::isChosen(choice, session_->settings())}};
     }
     return result;
 }

@@ -9,49 +9,39 @@ namespace tamble {
 SaveDefaults::SaveDefaults(SavePreferences save, bool fromFolder, Write write, QObject* parent)
     : QObject(parent), save_(std::move(save)), fromFolder_(fromFolder), write_(std::move(write)) {}
 
-void SaveDefaults::change(SavePreferences save) {
-    if (save == save_) return;
-    save_ = std::move(save);
+template <typename Change>
+void SaveDefaults::change(const Change& change) {
+    const SavePreferences before = save_;
+    change(save_);
+    if (save_ == before) return;
     write_(save_);
     emit changed();
 }
 
 void SaveDefaults::setMode(int mode) {
-    SavePreferences save = save_;
-    save.mode = static_cast<SavePreferences::Mode>(mode);
-    change(std::move(save));
+    change([&](SavePreferences& save) { save.mode = static_cast<SavePreferences::Mode>(mode); });
 }
 
 void SaveDefaults::setClash(int clash) {
-    SavePreferences save = save_;
-    save.clashPolicy = static_cast<ClashPolicy>(clash);
-    change(std::move(save));
+    change([&](SavePreferences& save) { save.clashPolicy = static_cast<ClashPolicy>(clash); });
 }
 
 void SaveDefaults::setKeepStructure(bool keep) {
-    SavePreferences save = save_;
-    save.keepStructure = keep;
-    change(std::move(save));
+    change([&](SavePreferences& save) { save.keepStructure = keep; });
 }
 
 void SaveDefaults::setAddDateFolder(bool add) {
-    SavePreferences save = save_;
-    save.addDateFolder = add;
-    change(std::move(save));
+    change([&](SavePreferences& save) { save.addDateFolder = add; });
 }
 
 void SaveDefaults::chooseFolder(const QUrl& folder) {
     const auto path = pathOf(folder);
     if (!path) return;
-    SavePreferences save = save_;
-    save.setFolder(*path);
-    change(std::move(save));
+    change([&](SavePreferences& save) { save.setFolder(*path); });
 }
 
 void SaveDefaults::forgetFolder() {
-    SavePreferences save = save_;
-    save.folderPath.reset();
-    change(std::move(save));
+    change([&](SavePreferences& save) { save.folderPath.reset(); });
 }
 
 QString SaveDefaults::folder() const {

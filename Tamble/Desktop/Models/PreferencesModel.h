@@ -44,7 +44,8 @@ class SaveDefaults : public QObject {
     void changed();
 
   private:
-    void change(SavePreferences save);
+    template <typename Change>
+    void change(const Change& change);
 
     SavePreferences save_;
     bool fromFolder_;

@@ -2,6 +2,8 @@
 
 #include <TambleCore/Jobs/UndoRecord.h>
 
+#include <fmt/format.h>
+
 namespace tamble {
 namespace {
 

@@ -1,0 +1,203 @@
+import QtQuick
+import QtQuick.Templates as T
+
+// The files of a tool as rows: name, place, size; they can be sorted, removed, and dragged into another order.
+Surface {
+    id: root
+
+    readonly property FileListModel files: App.tool.files
+    property var selected: ({})
+    readonly property int selectedCount: Object.keys(selected).length
+
+    function select(row, extend) {
+        const next = extend ? Object.assign({}, selected) : {}
+        if (extend && next[row])
+            delete next[row]
+        else
+            next[row] = true
+        selected = next
+    }
+    function selectSpan(from, to) {
+        const next = {}
+        for (let row = Math.min(from, to); row <= Math.max(from, to); ++row)
+            next[row] = true
+        selected = next
+    }
+    function removeSelected() {
+        const rows = selectedCount > 0 ? Object.keys(selected).map(Number) : [list.currentIndex]
+        selected = {}
+        files.remove(rows)
+    }
+
+    Item {
+        id: bar
+
+        width: parent.width
+        height: 48
+
+        Label {
+            anchors { left: parent.left; leftMargin: 16; verticalCenter: parent.verticalCenter }
+            kind: "caption"
+            quiet: true
+            text: root.selectedCount > 0 ? qsTr("%n selected", "", root.selectedCount) : App.tool.ordersFiles ? qsTr("Drag into the order you want") : qsTr("%n file(s)", "", list.count)
+        }
+        Row {
+            anchors { right: parent.right; rightMargin: 8; verticalCenter: parent.verticalCenter }
+            spacing: Theme.space2
+
+            PushButton { visible: root.selectedCount > 0; implicitHeight: 32; kind: "quiet"; sign: "ui.close"; text: qsTr("Remove"); onClicked: root.removeSelected() }
+            Chooser {
+                implicitHeight: 32
+                hint: qsTr("Order")
+                model: [qsTr("As dropped"), qsTr("By name"), qsTr("By size"), qsTr("By kind")]
+                onActivated: index => { root.selected = {}; root.files.sort(index) }
+            }
+        }
+        Divider { anchors.bottom: parent.bottom; width: parent.width }
+    }
+
+    ListView {
+        id: list
+
+        anchors { left: parent.left; right: parent.right; top: bar.bottom; bottom: parent.bottom; bottomMargin: 6 }
+        model: root.files
+        clip: true
+        reuseItems: true
+        boundsBehavior: Flickable.StopAtBounds
+        activeFocusOnTab: true
+        keyNavigationEnabled: true
+        cacheBuffer: 200
+        T.ScrollBar.vertical: ScrollLine {}
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Files")
+
+        property int anchor: 0
+
+        Keys.onPressed: event => {
+            const step = ({ [Qt.Key_Up]: -1, [Qt.Key_Down]: 1, [Qt.Key_PageUp]: -10, [Qt.Key_PageDown]: 10, [Qt.Key_Home]: -count, [Qt.Key_End]: count })[event.key]
+            if (step !== undefined) {
+                const next = Math.max(0, Math.min(count - 1, currentIndex + step))
+                if (App.tool.ordersFiles && (event.modifiers & Qt.AltModifier)) {
+                    root.files.move(currentIndex, next)
+                    root.select(next, false)
+                } else if (event.modifiers & Qt.ShiftModifier) {
+                    root.selectSpan(anchor, next)
+                } else {
+                    anchor = next
+                    root.select(next, false)
+                }
+                currentIndex = next
+                event.accepted = true
+            } else if (event.key === Qt.Key_Delete || event.key === Qt.Key_Backspace) {
+                root.removeSelected()
+                event.accepted = true
+            } else if (event.matches(StandardKey.SelectAll)) {
+                root.selectSpan(0, count - 1)
+                event.accepted = true
+            }
+        }
+
+        delegate: Item {
+            id: row
+
+            required property int index
+            required property string name
+            required property string folder
+            required property string size
+            required property string picture
+            required property string kind
+
+            readonly property bool isSelected: root.selected[index] === true
+
+            width: list.width
+            height: 52
+            z: drag.active ? 2 : 0
+            Accessible.role: Accessible.ListItem
+            Accessible.name: name + ", " + size
+
+            Rectangle {
+                anchors { fill: parent; leftMargin: 6; rightMargin: 6; topMargin: 1; bottomMargin: 1 }
+                radius: 10
+                color: row.isSelected ? Theme.tint(App.tool.category) : hover.hovered ? Theme.hover : drag.active ? Theme.surface : "transparent"
+                border { width: list.activeFocus && list.currentIndex === row.index ? 2 : 0; color: Theme.focus }
+            }
+            Sign {
+                id: grip
+
+                x: LayoutMirroring.enabled ? parent.width - width - 12 : 12
+                anchors.verticalCenter: parent.verticalCenter
+                visible: App.tool.ordersFiles
+                width: visible ? 16 : 0
+                name: "ui.drag"
+                size: 16
+            }
+            Thumb {
+                id: thumb
+
+                anchors { left: grip.right; leftMargin: 8; verticalCenter: parent.verticalCenter }
+                width: 48
+                height: 36
+                radius: 7
+                picture: row.picture
+                kind: row.kind
+            }
+            Column {
+                anchors { left: thumb.right; leftMargin: 12; right: amount.left; rightMargin: 12; verticalCenter: parent.verticalCenter }
+
+                Label { width: parent.width; text: row.name; font.weight: Font.Medium; elide: Text.ElideMiddle; Accessible.ignored: true }
+                Label { width: parent.width; kind: "caption"; font.weight: Font.Normal; quiet: true; text: row.folder; elide: Text.ElideMiddle; Accessible.ignored: true }
+            }
+            Label {
+                id: amount
+
+                anchors { right: remove.left; rightMargin: 6; verticalCenter: parent.verticalCenter }
+                quiet: true
+                text: row.size
+                font.features: ({ "tnum": 1 })
+                Accessible.ignored: true
+            }
+            IconButton {
+                id: remove
+
+                anchors { right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
+                implicitWidth: 28
+                implicitHeight: 28
+                focusPolicy: Qt.NoFocus
+                opacity: hover.hovered ? 1 : 0
+                sign: "ui.close"
+                signSize: 14
+                text: qsTr("Remove from the list")
+                onClicked: { root.selected = {}; root.files.remove([row.index]) }
+            }
+
+            HoverHandler { id: hover }
+            TapHandler {
+                acceptedModifiers: Qt.NoModifier
+                onTapped: { list.forceActiveFocus(); list.anchor = list.currentIndex = row.index; root.select(row.index, false) }
+            }
+            TapHandler {
+                acceptedModifiers: Qt.ControlModifier
+                onTapped: { list.forceActiveFocus(); list.anchor = list.currentIndex = row.index; root.select(row.index, true) }
+            }
+            TapHandler {
+                acceptedModifiers: Qt.ShiftModifier
+                onTapped: { list.forceActiveFocus(); list.currentIndex = row.index; root.selectSpan(list.anchor, row.index) }
+            }
+            DragHandler {
+                id: drag
+
+                enabled: App.tool.ordersFiles
+                target: null
+                xAxis.enabled: false
+                onCentroidChanged: {
+                    if (!active)
+                        return
+                    const at = row.mapToItem(list.contentItem, centroid.position.x, centroid.position.y)
+                    const to = Math.max(0, Math.min(list.count - 1, Math.floor(at.y / row.height)))
+                    if (to !== row.index)
+                        root.files.move(row.index, to)
+                }
+            }
+        }
+    }
+}

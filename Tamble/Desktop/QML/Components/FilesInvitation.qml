@@ -1,0 +1,34 @@
+import QtQuick
+
+// Stands where a tool's files will be.
+Rectangle {
+    id: root
+
+    radius: Theme.dropRadius
+    color: Theme.brandSoft
+
+    DashedFrame { anchors { fill: parent; margins: 10 } }
+
+    Column {
+        anchors.centerIn: parent
+        width: parent.width - 64
+        spacing: Theme.space3
+
+        Mascot {
+            anchors.horizontalCenter: parent.horizontalCenter
+            size: Math.min(170, root.height * 0.4)
+            expression: App.intake.isBusy ? "working" : "waiting"
+            moving: Theme.moves
+        }
+        Label { width: parent.width; kind: "heading"; text: App.tool.notice || qsTr("Drop files here"); horizontalAlignment: Text.AlignHCenter; wrapMode: Text.Wrap }
+        Label { width: parent.width; quiet: true; text: App.tool.subtitle; horizontalAlignment: Text.AlignHCenter; wrapMode: Text.Wrap }
+        Flow {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(parent.width, 290)
+            spacing: Theme.space3
+
+            PushButton { kind: "main"; big: true; text: qsTr("Add files…"); onClicked: FileChooser.files() }
+            PushButton { big: true; text: qsTr("Add folder…"); onClicked: FileChooser.folder() }
+        }
+    }
+}

@@ -1,0 +1,23 @@
+import QtQuick
+
+// A file that stands in for the usual one.
+Column {
+    id: root
+
+    property string title
+    property string path
+    property string usual
+    property string note
+    signal chosen(url file)
+
+    spacing: Theme.space2
+
+    Label { width: parent.width; kind: "strong"; text: root.title; wrapMode: Text.Wrap }
+    Row {
+        spacing: Theme.space2
+
+        PushButton { sign: "ui.file"; text: root.path || root.usual; onClicked: FileChooser.aFile(url => root.chosen(url)) }
+        PushButton { visible: root.path; kind: "quiet"; text: qsTr("Use the usual one"); onClicked: root.chosen("") }
+    }
+    Label { width: parent.width; visible: text; quiet: true; text: root.note; wrapMode: Text.Wrap }
+}

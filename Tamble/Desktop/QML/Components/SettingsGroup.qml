@@ -1,0 +1,25 @@
+import QtQuick
+
+Column {
+    id: root
+
+    property string heading
+    default property alias content: inner.data
+
+    spacing: Theme.space3
+
+    Label { kind: "heading"; text: root.heading }
+    Surface {
+        width: parent.width
+        height: inner.height + 2 * Theme.space4
+
+        Column {
+            id: inner
+
+            x: Theme.space4
+            y: Theme.space4
+            width: parent.width - 2 * Theme.space4
+            spacing: Theme.space4
+        }
+    }
+}
