@@ -17,7 +17,7 @@ constexpr std::size_t mostWords = 8;
 constexpr std::array<std::array<int, 7>, 4> pointsTable{{
     {100, 90, 80, 28, 20, 12, 0},
     {70, 65, 50, 24, 18, 10, 0},
-    {45, 42, 35, 20, 14, 8, 0},
+    {55, 52, 35, 20, 14, 8, 0},
     {40, 38, 30, 20, 12, 6, 0},
 }};
 constexpr int sameTitle = 100, beginningOfTitle = 40, sameKeyword = 60;

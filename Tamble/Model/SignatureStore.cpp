@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace tamble {
 namespace {
@@ -22,6 +23,11 @@ bool isPNG(std::span<const std::byte> bytes) {
     return bytes.size() > pngSignature.size() &&
            std::ranges::equal(bytes.first(pngSignature.size()), pngSignature, {},
                               [](std::byte byte) { return std::to_integer<std::uint8_t>(byte); });
+}
+
+/// Infinities and what is no number have no JSON form.
+bool isNowhere(const InkPoint& point) {
+    return !std::isfinite(point.x) || !std::isfinite(point.y) || !std::isfinite(point.width);
 }
 
 /// Throws when the file holds no signature of that name.
@@ -64,6 +70,7 @@ std::vector<SavedSignature> SignatureStore::all() const {
 std::optional<SavedSignature> SignatureStore::add(std::vector<std::byte> imagePNG,
                                                   std::vector<InkStroke> strokes) {
     if (!isPNG(imagePNG)) return std::nullopt;
+    for (InkStroke& stroke : strokes) std::erase_if(stroke, isNowhere);
     const std::chrono::duration<double> now = std::chrono::system_clock::now().time_since_epoch();
     SavedSignature signature{.id = newUUID(),
                              .saved = now.count(),

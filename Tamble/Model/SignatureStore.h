@@ -48,8 +48,9 @@ class SignatureStore {
     /// The newest first. One that cannot be read is left out, and stays on disk.
     std::vector<SavedSignature> all() const;
 
-    /// What was saved; nothing when there are as many as there may be, or the bytes are no PNG file or too
-    /// many. Throws std::filesystem::filesystem_error when it cannot be written.
+    /// What was saved, without points that are nowhere; nothing when there are as many as there may be, or
+    /// the bytes are no PNG file or too many. Throws std::filesystem::filesystem_error when it cannot be
+    /// written.
     std::optional<SavedSignature> add(std::vector<std::byte> imagePNG, std::vector<InkStroke> strokes = {});
     /// Forgets it for good; nothing happens when there is none. Throws std::filesystem::filesystem_error.
     void remove(const std::string& id);

@@ -18,10 +18,11 @@ constexpr std::array<Keywords, 39> keywords{{
      "photos"},
     {ImageTool::compress,
      "compress, shrink, reduce, reduce size, file size, optimise, optimize, lighter, too big, too "
-     "large, email, attachment, save space, kb, mb, upload, web, website, quality, squeeze, minify"},
+     "large, email, attachment, save space, kb, mb, upload, web, website, quality, lower quality, "
+     "squeeze, minify"},
     {ImageTool::resize,
-     "scale, dimensions, pixels, px, resolution, thumbnail, shrink, smaller, resize for email, "
-     "email, instagram, website, wallpaper, avatar, profile, longest side, megapixels, small"},
+     "scale, change size, dimensions, pixels, px, resolution, thumbnail, shrink, smaller, resize for "
+     "email, email, instagram, website, wallpaper, avatar, profile, longest side, megapixels, small"},
     {ImageTool::rotate,
      "turn, mirror, flip, sideways, upside down, orientation, straighten, portrait, landscape, 90 "
      "degrees, 180, spin, wrong way round"},
@@ -31,8 +32,8 @@ constexpr std::array<Keywords, 39> keywords{{
      "details, map"},
     {ImageTool::removeBackground,
      "cut out, cutout, cut-out, transparent, transparency, erase background, delete background, "
-     "isolate, subject, product photo, white background, sticker, clip art, logo, mask, passport, "
-     "headshot, object"},
+     "isolate, subject, product, white background, sticker, clip art, logo, mask, passport, "
+     "headshot, object, bg"},
     {VideoTool::compress,
      "compress, shrink, reduce, reduce size, file size, lighter, too big, too large, attachment, "
      "email, whatsapp, upload, bitrate, mb, optimise, optimize"},
@@ -82,8 +83,8 @@ constexpr std::array<Keywords, 39> keywords{{
      "separate, divide, cut, break up, break apart, single pages, each page, burst, several files, "
      "chapters, part"},
     {PDFTool::organize,
-     "order, sort, arrange, rearrange, move pages, swap pages, organise, organize, turn, sideways, "
-     "upside down, orientation, landscape, portrait, flip, sequence"},
+     "edit pages, order, sort, arrange, rearrange, move pages, swap pages, organise, organize, turn, "
+     "sideways, upside down, orientation, landscape, portrait, flip, sequence"},
     {PDFTool::deletePages, "remove pages, erase, drop, discard, blank pages, empty pages, get rid, cut"},
     {PDFTool::extractPages,
      "extract, extract pages, select, pick, keep pages, copy pages, save pages, pull out, single "
@@ -127,11 +128,11 @@ constexpr std::array<Keywords, 39> keywords{{
      "extension, photos, pictures, label, title, sort"},
 }};
 
-constexpr std::array<std::u32string_view, 45> fillWords{
-    U"a",    U"an",   U"and",   U"as",  U"at",   U"can", U"do",  U"for", U"from",   U"how",   U"i",    U"in",
-    U"into", U"is",   U"it",    U"me",  U"my",   U"of",  U"on",  U"or",  U"please", U"the",   U"this", U"to",
-    U"want", U"with", U"your",  U"das", U"den",  U"der", U"die", U"ein", U"eine",   U"einen", U"fur",  U"ich",
-    U"im",   U"mein", U"meine", U"mit", U"nach", U"und", U"von", U"zu",  U"zum"};
+constexpr std::array<std::u32string_view, 47> fillWords{
+    U"a",    U"an",  U"and", U"as",   U"at",    U"can", U"do",   U"for", U"from",   U"how", U"i",    U"in",
+    U"into", U"is",  U"it",  U"me",   U"my",    U"of",  U"on",   U"or",  U"please", U"the", U"this", U"to",
+    U"want", U"was", U"be",  U"with", U"your",  U"das", U"den",  U"der", U"die",    U"ein", U"eine", U"einen",
+    U"fur",  U"ich", U"im",  U"mein", U"meine", U"mit", U"nach", U"und", U"von",    U"zu",  U"zum"};
 
 }  // namespace
 

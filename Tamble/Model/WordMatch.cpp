@@ -32,9 +32,8 @@ bool isAnotherForm(std::u32string_view typed, std::u32string_view word) {
 
 /// Few letters in the middle of a word mean nothing.
 bool isInside(std::u32string_view typed, std::u32string_view word) {
-    const bool hasEnd = typed.size() >= 3 && word.ends_with(typed);
     const bool isLong = typed.size() >= 5 || typed.front() >= firstOfShortWords;
-    return hasEnd || (isLong && word.find(typed) != std::u32string_view::npos);
+    return isLong && word.find(typed) != std::u32string_view::npos;
 }
 
 std::size_t forgivenMistakes(std::size_t letters) {

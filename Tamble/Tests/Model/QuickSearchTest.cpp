@@ -74,6 +74,9 @@ TEST(QuickSearch, PutsWhatPeopleMeanFirst) {
         {"mute", "video.mute"},
         {"gif", "video.gif"},
         {"e-mail", "image.compress"},
+        {"where was this photo taken", "image.removeMetadata"},
+        {"pic", "image.convert"},
+        {"re-size", "image.resize"},
         // While it is typed.
         {"conv", "image.convert"},
         {"com", "pdf.merge"},
@@ -123,6 +126,7 @@ TEST(QuickSearch, AllWordsMustFitButThoseThatSayNothing) {
         EXPECT_THAT(found(nothing), IsEmpty()) << nothing;
     EXPECT_THAT(found("mic"), Not(Contains("image.rotate"))) << "three letters have no mistakes";
     EXPECT_THAT(found("crop"), Not(Contains("audio.record"))) << "the middle of a microphone";
+    EXPECT_THAT(found("word"), Not(Contains("pdf.addPassword")));
     EXPECT_THAT(found("sign"), ElementsAre("pdf.sign")) << "a word that is known is no mistake of another";
     EXPECT_THAT(found(std::string(100'000, 'a')), IsEmpty());
 }

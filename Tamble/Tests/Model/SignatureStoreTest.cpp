@@ -47,6 +47,12 @@ TEST_F(Signatures, AreKeptPrivatelyUntilTheyAreRemoved) {
     ASSERT_EQ(::stat(SignatureStore::defaultFolder().c_str(), &properties), 0);
     EXPECT_EQ(properties.st_mode & 07777U, 0700U);
 
+    const double nowhere = std::numeric_limits<double>::quiet_NaN();
+    const SavedSignature odd = saved("odd", {{{nowhere, 0, 0}, {1, 1, 1}}});
+    EXPECT_EQ(store.all().front(), odd);
+    EXPECT_EQ(odd.strokes, (std::vector<InkStroke>{{{1, 1, 1}}}));
+    store.remove(odd.id);
+
     store.remove(drawn.id);
     store.remove(drawn.id);
     EXPECT_EQ(store.all(), std::vector{photographed});
