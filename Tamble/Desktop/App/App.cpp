@@ -102,6 +102,10 @@ void App::openTool(const QString& toolID) {
     navigator_.open(Navigator::Tool);
 }
 
+void App::choose(const QString& kind, const QUrl& start, const QJSValue& take) {
+    emit choiceRequested(kind, start, take);
+}
+
 void App::startOver() {
     intake_.clear();
     tool_.close();

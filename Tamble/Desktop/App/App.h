@@ -13,6 +13,7 @@
 #include <Tamble/Desktop/Models/ToolModel.h>
 #include <Tamble/Desktop/Pictures/FilePictures.h>
 
+#include <QJSValue>
 #include <QQmlEngine>
 
 namespace tamble {
@@ -71,6 +72,9 @@ class App : public QObject {
     Q_INVOKABLE void paste();
     /// Opens the tool with what was dropped.
     Q_INVOKABLE void openTool(const QString& toolID);
+    /// Lets people choose "files", a "file" or a "folder", beginning at `start`; `take` is called with a list
+    /// of URLs unless they change their mind.
+    Q_INVOKABLE void choose(const QString& kind, const QUrl& start, const QJSValue& take);
     Q_INVOKABLE void startOver();
     Q_INVOKABLE void startJob();
     Q_INVOKABLE void useResults();
@@ -83,6 +87,7 @@ class App : public QObject {
   signals:
     /// A short message for the foot of the window.
     void said(const QString& sentence);
+    void choiceRequested(const QString& kind, const QUrl& start, const QJSValue& take);
     /// Somebody started the program again: the window comes to the front.
     void raiseRequested();
 

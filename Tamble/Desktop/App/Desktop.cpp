@@ -59,7 +59,6 @@ int runDesktop(int argumentCount, char** arguments) {
     if (instance.handOver(urls)) return 0;
     instance.listen();
 
-    useHelpers(PreferencesStore());
     qml_register_types_Tamble();
     App app;
     QQmlApplicationEngine engine;

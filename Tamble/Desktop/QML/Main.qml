@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 T.ApplicationWindow {
     id: root
@@ -45,6 +46,8 @@ T.ApplicationWindow {
     DropCatcher {
         anchors.fill: parent
     }
+
+    FileChooser {}
 
     QuickSearchPopup {
         id: search
@@ -110,7 +113,7 @@ T.ApplicationWindow {
     Shortcut { sequences: ["Ctrl+K", "Ctrl+Alt+Z"]; enabled: !App.job.isRunning; onActivated: search.open() }
     Shortcut { sequences: [StandardKey.Paste]; enabled: !search.opened; onActivated: App.paste() }
     Shortcut { sequences: [StandardKey.Quit]; onActivated: root.close() }
-    Shortcut { sequences: [StandardKey.Open]; onActivated: FileChooser.files() }
+    Shortcut { sequences: [StandardKey.Open]; onActivated: App.choose("files", "", urls => App.take(urls)) }
     Shortcut { sequences: [StandardKey.Back, "Alt+Left"]; enabled: !App.job.isRunning; onActivated: App.navigator.back() }
     Shortcut { sequences: [StandardKey.Preferences, "Ctrl+,"]; enabled: !App.job.isRunning; onActivated: App.navigator.open(Navigator.Settings) }
 }

@@ -1,6 +1,7 @@
 pragma Singleton
 
 import QtQuick
+import Tamble
 
 // The window's one palette, one type scale, one spacing scale, one set of durations.
 QtObject {

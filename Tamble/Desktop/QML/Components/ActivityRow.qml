@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // One job of the log.
 Item {

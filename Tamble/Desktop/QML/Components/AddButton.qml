@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 // Adds files or a folder.
 PushButton {
@@ -21,7 +22,7 @@ PushButton {
         contentItem: ListView { model: menu.contentModel; implicitHeight: contentHeight; currentIndex: menu.currentIndex }
         background: Surface { radius: 12; border { width: 1; color: Theme.line } }
 
-        MenuEntry { text: qsTr("Add files…"); sign: "ui.file"; onTriggered: FileChooser.files() }
-        MenuEntry { text: qsTr("Add folder…"); sign: "ui.folder"; onTriggered: FileChooser.folder() }
+        MenuEntry { text: qsTr("Add files…"); sign: "ui.file"; onTriggered: App.choose("files", "", urls => App.take(urls)) }
+        MenuEntry { text: qsTr("Add folder…"); sign: "ui.folder"; onTriggered: App.choose("folder", "", urls => App.take(urls)) }
     }
 }

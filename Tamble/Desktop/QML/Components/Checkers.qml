@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // What is behind a see-through picture.
 Image {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 Rectangle {
     property alias text: label.text

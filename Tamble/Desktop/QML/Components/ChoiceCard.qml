@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 // One of several choices, with what it means.
 T.RadioButton {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 // One of a few, behind a button. `options`: texts.
 T.ComboBox {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Shapes
+import Tamble
 
 // A dashed line with round corners.
 Shape {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // Takes what is dropped anywhere in the window, and shows so while it is over it.
 DropArea {

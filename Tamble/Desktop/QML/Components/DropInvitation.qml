@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // The large area that asks for files.
 Rectangle {
@@ -47,8 +48,8 @@ Rectangle {
             width: parent.width
             spacing: Theme.space3
 
-            PushButton { kind: "main"; big: true; text: qsTr("Add files…"); onClicked: FileChooser.files() }
-            PushButton { big: true; text: qsTr("Add folder…"); onClicked: FileChooser.folder() }
+            PushButton { kind: "main"; big: true; text: qsTr("Add files…"); onClicked: App.choose("files", "", urls => App.take(urls)) }
+            PushButton { big: true; text: qsTr("Add folder…"); onClicked: App.choose("folder", "", urls => App.take(urls)) }
         }
     }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // What stands where nothing is yet.
 Column {

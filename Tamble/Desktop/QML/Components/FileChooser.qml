@@ -1,21 +1,14 @@
-pragma Singleton
-
 import QtQuick
+import Tamble
 
-// The system's dialogs for files and folders, loaded when first needed.
+// The system's dialogs for files and folders, loaded when first asked for.
 QtObject {
     id: root
 
-    property var pending: null
     property Component dialogs: null
     property var shown: null
 
-    function files() { show("files", urls => App.take(urls)) }
-    function folder() { show("folder", urls => App.take(urls)) }
-    function aFolder(start: url, take) { show("folder", urls => take(urls[0]), start) }
-    function aFile(take) { show("file", urls => take(urls[0])) }
-
-    function show(kind, take, start) {
+    function show(kind, start, take) {
         if (!dialogs)
             dialogs = Qt.createComponent("FileDialogs.qml")
         if (dialogs.status === Component.Error) {
@@ -24,7 +17,12 @@ QtObject {
         }
         if (shown)
             shown.destroy()
-        shown = dialogs.createObject(null, { "kind": kind, "take": take, "start": start ?? "" })
+        shown = dialogs.createObject(null, { "kind": kind, "take": take, "start": start })
         shown.open()
+    }
+
+    property Connections requests: Connections {
+        target: App
+        function onChoiceRequested(kind, start, take) { root.show(kind, start, take) }
     }
 }

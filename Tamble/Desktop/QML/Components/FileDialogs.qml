@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Dialogs
+import Tamble
 
 // One question for files or a folder.
 QtObject {

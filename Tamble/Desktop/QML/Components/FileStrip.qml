@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 // The files of a tool: a line of thumbnails below an editor, or a list of its own.
 Item {

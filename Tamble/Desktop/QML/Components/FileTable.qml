@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 // The files of a tool as rows: name, place, size; they can be sorted, removed, and dragged into another order.
 Surface {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // Stands where a tool's files will be.
 Rectangle {
@@ -27,8 +28,8 @@ Rectangle {
             width: Math.min(parent.width, 290)
             spacing: Theme.space3
 
-            PushButton { kind: "main"; big: true; text: qsTr("Add files…"); onClicked: FileChooser.files() }
-            PushButton { big: true; text: qsTr("Add folder…"); onClicked: FileChooser.folder() }
+            PushButton { kind: "main"; big: true; text: qsTr("Add files…"); onClicked: App.choose("files", "", urls => App.take(urls)) }
+            PushButton { big: true; text: qsTr("Add folder…"); onClicked: App.choose("folder", "", urls => App.take(urls)) }
         }
     }
 }

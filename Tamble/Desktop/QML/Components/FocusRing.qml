@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // Shows where the keyboard is: 2 px outside its parent.
 Rectangle {

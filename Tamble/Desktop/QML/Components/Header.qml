@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // The top of a screen: the way back, what the screen is about, and what can be done at its end.
 Item {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 // What a sign means, a moment after the pointer came to rest on it.
 T.ToolTip {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 // A button with a sign alone; `text` is its name for screen readers and its hint.
 T.Button {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // Text in one of the sizes of the type scale.
 Text {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // The figure that waits for files, catches them, works, and tells how it went. It is laid together from pictures on
 // one 200 × 200 grid: shapes drawn by the graphics card would have ragged edges.

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // How the mascot moves in each expression. All but "working" end by themselves; then nothing runs.
 QtObject {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // One section of a tool's panel: the control that its data ask for.
 Column {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // A file that stands in for the usual one.
 Column {
@@ -16,7 +17,7 @@ Column {
     Row {
         spacing: Theme.space2
 
-        PushButton { sign: "ui.file"; text: root.path || root.usual; onClicked: FileChooser.aFile(url => root.chosen(url)) }
+        PushButton { sign: "ui.file"; text: root.path || root.usual; onClicked: App.choose("file", "", urls => root.chosen(urls[0])) }
         PushButton { visible: root.path; kind: "quiet"; text: qsTr("Use the usual one"); onClicked: root.chosen("") }
     }
     Label { width: parent.width; visible: text; quiet: true; text: root.note; wrapMode: Text.Wrap }

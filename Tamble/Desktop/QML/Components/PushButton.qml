@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 T.Button {
     id: root
@@ -12,7 +13,7 @@ T.Button {
     readonly property color inkColor: main ? Theme.onBrand : kind === "danger" ? Theme.bad : kind === "quiet" ? Theme.ink2 : Theme.ink
 
     implicitHeight: big ? Theme.mainControl : Theme.control
-    implicitWidth: Math.max(implicitHeight, contentItem.implicitWidth + leftPadding + rightPadding)
+    implicitWidth: Math.max(implicitHeight, Math.ceil(implicitContentWidth) + leftPadding + rightPadding)
     leftPadding: big ? 24 : 16
     rightPadding: leftPadding
     opacity: enabled ? 1 : 0.45
@@ -22,11 +23,9 @@ T.Button {
     Accessible.role: Accessible.Button
 
     contentItem: Item {
-        implicitWidth: row.implicitWidth
+        implicitWidth: (root.sign ? 18 + Theme.space2 : 0) + label.implicitWidth
 
         Row {
-            id: row
-
             anchors.centerIn: parent
             spacing: Theme.space2
 
@@ -38,8 +37,10 @@ T.Button {
                 size: 18
             }
             Text {
+                id: label
+
                 anchors.verticalCenter: parent.verticalCenter
-                width: Math.min(implicitWidth, root.width > 0 ? root.width - root.leftPadding - root.rightPadding - (root.sign ? 26 : 0) : implicitWidth)
+                width: Math.min(Math.ceil(implicitWidth), root.availableWidth - (root.sign ? 18 + Theme.space2 : 0))
                 text: root.text
                 font: root.font
                 color: root.inkColor

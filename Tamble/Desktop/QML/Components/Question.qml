@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 // Asks before something is done: a heading, an explanation, and what can be answered.
 T.Popup {

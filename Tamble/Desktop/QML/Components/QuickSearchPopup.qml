@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 // Finds a tool while people type; Enter opens it with what was dropped.
 T.Popup {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // The last jobs of the log, each with its way back.
 Surface {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 // Takes a file out of the list, not off the disk.
 T.AbstractButton {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // A list of files or folders with what became of each; long lists scroll by themselves.
 Column {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // One of the two remembered sets of where to save.
 Column {
@@ -25,7 +26,7 @@ Column {
         Row {
             spacing: Theme.space2
 
-            PushButton { sign: "ui.folder"; text: root.defaults.folder; onClicked: FileChooser.aFolder("", url => root.defaults.chooseFolder(url)) }
+            PushButton { sign: "ui.folder"; text: root.defaults.folder; onClicked: App.choose("folder", "", urls => root.defaults.chooseFolder(urls[0])) }
             PushButton { kind: "quiet"; text: qsTr("Use Downloads"); onClicked: root.defaults.forgetFolder() }
         }
         Toggle { width: parent.width; text: qsTr("A folder for each day"); checked: root.defaults.addDateFolder; onToggled: root.defaults.addDateFolder = checked }

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // Where the new files go, what to expect, and the button that starts the job.
 Rectangle {
@@ -55,7 +56,7 @@ Rectangle {
                     sign: "ui.folder"
                     text: root.save.folder
                     Accessible.description: qsTr("Choose a folder")
-                    onClicked: FileChooser.aFolder(root.save.folderUrl, url => root.save.chooseFolder(url))
+                    onClicked: App.choose("folder", root.save.folderUrl, urls => root.save.chooseFolder(urls[0]))
                 }
                 Chooser {
                     visible: !root.save.renames || root.save.renamesCopies

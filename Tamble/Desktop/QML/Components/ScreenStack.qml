@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // The screen that is shown; a screen is made when it is first needed.
 Item {

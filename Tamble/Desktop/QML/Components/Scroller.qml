@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 // A page that scrolls when it is higher than its place.
 Flickable {

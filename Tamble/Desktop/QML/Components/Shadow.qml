@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // A soft shadow under its parent; stretched from one small picture, since blurring costs frames without a graphics card.
 Item {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 // Where people can go. Narrow, it shows signs alone.
 Item {

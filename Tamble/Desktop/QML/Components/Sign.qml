@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // A symbol in one colour.
 Image {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // A white card that other things stand on.
 Rectangle {

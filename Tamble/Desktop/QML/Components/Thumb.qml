@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // A small picture of a file, or the sign of its kind.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // A tool's symbol on its category's tint.
 Rectangle {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // A short message at the foot of the window, gone after a while.
 Rectangle {

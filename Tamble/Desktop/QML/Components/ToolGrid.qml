@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // Cards of tools, as many beside each other as there is room for.
 Grid {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // A photo before and after, with a line between them that can be moved.
 Item {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tamble
 
 // Old and new names side by side, with what is wrong beside each.
 Surface {

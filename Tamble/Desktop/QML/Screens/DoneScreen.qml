@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // What became of the job.
 Scroller {

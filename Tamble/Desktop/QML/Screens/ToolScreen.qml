@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // What a tool works on at the left, what to choose at the right, where it goes and the button at the bottom.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tamble
 
 // A calm view of the job that runs.
 Item {
