@@ -20,7 +20,7 @@ QtObject {
     readonly property color brand: dark ? "#FF7D5C" : "#CF3F1B"
     readonly property color brandHover: dark ? "#FF8F72" : "#BB3615"
     readonly property color brandSoft: dark ? "#43261F" : "#FFE4DA"
-    readonly property color onBrand: dark ? "#2A0F07" : "#FFFFFF"
+    readonly property color brandInk: dark ? "#2A0F07" : "#FFFFFF"
     readonly property color good: dark ? "#52D3A2" : "#117A57"
     readonly property color warn: dark ? "#F0B75A" : "#8A5A00"
     readonly property color bad: dark ? "#FF8A90" : "#C2303C"

@@ -10,7 +10,7 @@ T.Button {
     property string sign
 
     readonly property bool main: kind === "main"
-    readonly property color inkColor: main ? Theme.onBrand : kind === "danger" ? Theme.bad : kind === "quiet" ? Theme.ink2 : Theme.ink
+    readonly property color inkColor: main ? Theme.brandInk : kind === "danger" ? Theme.bad : kind === "quiet" ? Theme.ink2 : Theme.ink
 
     implicitHeight: big ? Theme.mainControl : Theme.control
     implicitWidth: Math.max(implicitHeight, Math.ceil(implicitContentWidth) + leftPadding + rightPadding)
