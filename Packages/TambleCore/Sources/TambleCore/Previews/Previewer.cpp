@@ -59,6 +59,9 @@ struct Request {
     }
 };
 
+/// The drawing program rounds sides in its own way.
+constexpr int roundedUp = 1;
+
 /// Hands on the pages that stand in a folder by now.
 class PageDelivery {
   public:
@@ -66,12 +69,15 @@ class PageDelivery {
                  const Previewer::PageTaker& take)
         : request_(request), folder_(folder), next_(first), pixelSize_(pixelSize), take_(take) {}
 
-    /// Those before `end`.
+    /// Those before `end`; none after one that was not taken.
     void deliver(int end) {
-        for (; next_ < end; ++next_) {
+        while (!isRefused_ && next_ < end) {
             const auto place = folder_ / std::to_string(next_);
             if (!isThere(place)) return;
-            take_(next_, request_.trusted(PreviewFiles::readPicture(place, pixelSize_)));
+            isRefused_ = true;
+            take_(next_, request_.trusted(PreviewFiles::readPicture(place, pixelSize_ + roundedUp)));
+            isRefused_ = false;
+            ++next_;
         }
     }
     int next() const noexcept { return next_; }
@@ -82,6 +88,7 @@ class PageDelivery {
     int next_;
     int pixelSize_;
     const Previewer::PageTaker& take_;
+    bool isRefused_ = false;
 };
 
 /// What differs between tools that make one file of each and one of all.
@@ -175,10 +182,15 @@ void Previewer::drawPages(const InputFile& file, int first, int count, int pixel
             pool_};
         const PreviewPlace place = places_->make("0");
         PageDelivery delivery(request, place.path(), first, most, take);
-        // A report may stand for several pages, and comes when all it stands for are there.
-        request.perform(place.path(),
-                        {.progress = [&](double) { delivery.deliver(first + count); }, .stop = stop});
-        delivery.deliver(first + count);
+        const auto deliver = [&] { delivery.deliver(first + count); };
+        try {
+            // A report may stand for several pages, and comes when all it stands for are there.
+            request.perform(place.path(), {.progress = [&](double) { deliver(); }, .stop = stop});
+        } catch (const Failure&) {
+            deliver();
+            throw;
+        }
+        deliver();
         if (delivery.next() < first + count) request.trusted(std::optional<PreviewPicture>());
     });
 }
