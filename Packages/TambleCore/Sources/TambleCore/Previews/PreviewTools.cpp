@@ -5,6 +5,8 @@
 #include <TambleCore/Previews/PreviewFiles.h>
 #include <TambleCore/Previews/PreviewTools.h>
 
+#include <algorithm>
+
 namespace tamble {
 namespace {
 
@@ -17,6 +19,13 @@ constexpr WorkNeeds pageNeeds{
 
 PreviewPicture shown(Raster raster) {
     return {raster.width, raster.height, raster.channels, std::move(raster.samples)};
+}
+
+/// Documents can say anything; one page beyond all sense is no reason to list none.
+double listed(double side) {
+    constexpr double least = 1e-3;
+    constexpr double most = 1e9;
+    return std::clamp(side, least, most);
 }
 
 class PreviewProcessor : public FileProcessor {
@@ -51,7 +60,7 @@ class PageList final : public PreviewProcessor {
                  const WorkContext&) const override {
         std::vector<PreviewPage> pages;
         for (const auto& size : pdfEngine().pageSizes(file.url, settings_.password))
-            pages.push_back({size.width, size.height});
+            pages.push_back({listed(size.width), listed(size.height)});
         PreviewFiles::write(destination, pages);
     }
     WorkNeeds needs() const override { return pageNeeds; }

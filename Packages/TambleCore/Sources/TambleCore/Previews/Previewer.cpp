@@ -59,29 +59,43 @@ struct Request {
     }
 };
 
+/// The drawing program rounds sides in its own way.
+constexpr int roundedUp = 1;
+
 /// Hands on the pages that stand in a folder by now.
 class PageDelivery {
   public:
-    PageDelivery(const Request& request, const std::filesystem::path& folder, int first, int pixelSize,
-                 const Previewer::PageTaker& take)
-        : request_(request), folder_(folder), next_(first), pixelSize_(pixelSize), take_(take) {}
+    PageDelivery(const Request& request, const std::filesystem::path& folder, int first, int count,
+                 int pixelSize, const Previewer::PageTaker& take)
+        : request_(request),
+          folder_(folder),
+          next_(first),
+          left_(count),
+          pixelSize_(pixelSize),
+          take_(take) {}
 
-    /// Those before `end`.
-    void deliver(int end) {
-        for (; next_ < end; ++next_) {
+    /// None after one that was not taken.
+    void deliver() {
+        while (!isRefused_ && left_ > 0) {
             const auto place = folder_ / std::to_string(next_);
             if (!isThere(place)) return;
-            take_(next_, request_.trusted(PreviewFiles::readPicture(place, pixelSize_)));
+            isRefused_ = true;
+            take_(next_, request_.trusted(PreviewFiles::readPicture(place, pixelSize_ + roundedUp)));
+            isRefused_ = false;
+            ++next_;
+            --left_;
         }
     }
-    int next() const noexcept { return next_; }
+    bool isComplete() const noexcept { return left_ == 0; }
 
   private:
     const Request& request_;
     const std::filesystem::path& folder_;
     int next_;
+    int left_;
     int pixelSize_;
     const Previewer::PageTaker& take_;
+    bool isRefused_ = false;
 };
 
 /// What differs between tools that make one file of each and one of all.
@@ -174,12 +188,16 @@ void Previewer::drawPages(const InputFile& file, int first, int count, int pixel
             encodeJson(PagePreviewSettings{.first = first, .count = count, .pixelSize = most}), secrets, file,
             pool_};
         const PreviewPlace place = places_->make("0");
-        PageDelivery delivery(request, place.path(), first, most, take);
-        // A report may stand for several pages, and comes when all it stands for are there.
-        request.perform(place.path(),
-                        {.progress = [&](double) { delivery.deliver(first + count); }, .stop = stop});
-        delivery.deliver(first + count);
-        if (delivery.next() < first + count) request.trusted(std::optional<PreviewPicture>());
+        PageDelivery delivery(request, place.path(), first, count, most, take);
+        try {
+            // A report may stand for several pages, and comes when all it stands for are there.
+            request.perform(place.path(), {.progress = [&](double) { delivery.deliver(); }, .stop = stop});
+        } catch (const Failure&) {
+            delivery.deliver();
+            throw;
+        }
+        delivery.deliver();
+        if (!delivery.isComplete()) request.trusted(std::optional<PreviewPicture>());
     });
 }
 

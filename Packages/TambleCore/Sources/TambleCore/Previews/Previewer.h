@@ -37,8 +37,8 @@ class Previewer {
                         std::stop_token stop) const;
     /// Takes a page as soon as it is drawn, on the thread of the call.
     using PageTaker = std::function<void(int page, PreviewPicture picture)>;
-    /// `count` pages from `first` on, in their order: the document is opened once for all. What the taker
-    /// throws ends the work.
+    /// `count` pages from `first` on, in their order: the document is opened once for all. Those before one
+    /// that fails are handed over. What the taker throws ends the work.
     void drawPages(const InputFile& file, int first, int count, int pixelSize, const Secrets& secrets,
                    const PageTaker& take, std::stop_token stop) const;
 

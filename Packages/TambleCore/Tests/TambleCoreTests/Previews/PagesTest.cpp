@@ -56,6 +56,20 @@ TEST_F(PreviewTest, PagesThatAreNotThereAreRefused) {
     EXPECT_EQ(drawing(4, 1), "done");
 }
 
+TEST_F(PreviewTest, APageThatFailsCostsNoneBeforeIt) {
+    const std::string endless = "/UserUnit 1" + std::string(308, '0');
+    const auto document = file("a.pdf", test::pagesPDF({"", "", endless, ""}, corners));
+    EXPECT_EQ(previewer_.pages(document, {}, {}).size(), 4U);
+    std::vector<int> drawn;
+    EXPECT_EQ(outcome([&] {
+                  previewer_.drawPages(document, 0, 4, 60, {},
+                                       [&](int page, const PreviewPicture&) { drawn.push_back(page); }, {});
+              }),
+              "pageFailed");
+    EXPECT_EQ(drawn, (std::vector{0, 1}));
+    EXPECT_EQ(size(previewer_.page(document, 3, 60, {}, {})), "60x30x3");
+}
+
 TEST_F(PreviewTest, LockedPagesAreToldFromDamagedOnes) {
     const auto document = locked(file("a.pdf", turnedPages()), "secret word");
     const auto trouble = [&](const InputFile& of, const std::string& password) {
@@ -100,12 +114,17 @@ TEST_F(PreviewTest, AStopRequestEndsTheDrawing) {
 
 TEST_F(PreviewTest, WhatTheTakerThrowsEndsTheDrawing) {
     const auto document = file("a.pdf", turnedPages());
+    int taken = 0;
     EXPECT_EQ(outcome([&] {
-                  previewer_.drawPages(
-                      document, 0, 5, 60, {},
-                      [](int, const PreviewPicture&) { throw Failure("enough", "That is enough."); }, {});
+                  previewer_.drawPages(document, 0, 5, 60, {},
+                                       [&](int, const PreviewPicture&) {
+                                           ++taken;
+                                           throw Failure("enough", "That is enough.");
+                                       },
+                                       {});
               }),
               "enough");
+    EXPECT_EQ(taken, 1);
     EXPECT_EQ(outputsLeft(), 0);
     EXPECT_EQ(size(previewer_.page(document, 0, 60, {}, {})), "60x30x3");
 }
