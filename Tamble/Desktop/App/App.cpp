@@ -48,7 +48,8 @@ void App::prepare(QQmlEngine& engine) {
     // The engine owns its providers.
     engine.addImageProvider(QStringLiteral("symbol"), std::make_unique<SymbolProvider>().release());
     engine.addImageProvider(QStringLiteral("shadow"), std::make_unique<ShadowProvider>().release());
-    engine.addImageProvider(QStringLiteral("file"), std::make_unique<FilePictureProvider>(pictures_).release());
+    engine.addImageProvider(QStringLiteral("file"),
+                            std::make_unique<FilePictureProvider>(pictures_).release());
 }
 
 void App::begin() {
@@ -173,7 +174,8 @@ void App::showPlace() {
     if (navigator_.screen() != Navigator::Category) return;
     std::vector<ToolListModel::Entry> entries;
     for (const ToolInfo& tool : ToolCatalog::all()) {
-        if (navigator_.category().isEmpty() || navigator_.category() == categoryName(tool.category)) entries.push_back({&tool});
+        if (navigator_.category().isEmpty() || navigator_.category() == categoryName(tool.category))
+            entries.push_back({&tool});
     }
     categoryTools_.setEntries(std::move(entries));
 }

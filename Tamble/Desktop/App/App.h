@@ -40,7 +40,8 @@ class App : public QObject {
     Q_PROPERTY(QSize windowSize READ windowSize CONSTANT)
 
   public:
-    explicit App(QObject* parent = nullptr);
+    // Not without an argument: the toolkit would make an App of its own.
+    explicit App(QObject* parent);
     ~App() override;
 
     /// The one of the program, for the engine of the window.

@@ -9,7 +9,6 @@
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QTranslator>
-
 #include <iostream>
 
 /// The window's QML types are in a static library, which the linker would leave out without this.
@@ -48,10 +47,13 @@ int runDesktop(int argumentCount, char** arguments) {
     QTranslator english, own;
     translate(application, english, own);
     QCommandLineParser parser;
-    parser.setApplicationDescription(QCoreApplication::translate("Desktop", "Drop files in, pick what to do, done."));
+    parser.setApplicationDescription(
+        QCoreApplication::translate("Desktop", "Drop files in, pick what to do, done."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("files"), QCoreApplication::translate("Desktop", "Files and folders to open."), QStringLiteral("[files…]"));
+    parser.addPositionalArgument(QStringLiteral("files"),
+                                 QCoreApplication::translate("Desktop", "Files and folders to open."),
+                                 QStringLiteral("[files…]"));
     parser.process(application);
     const QList<QUrl> urls = urlsOf(parser.positionalArguments());
 
@@ -60,7 +62,7 @@ int runDesktop(int argumentCount, char** arguments) {
     instance.listen();
 
     qml_register_types_Tamble();
-    App app;
+    App app(nullptr);
     QQmlApplicationEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     app.prepare(engine);
@@ -70,10 +72,13 @@ int runDesktop(int argumentCount, char** arguments) {
         emit app.raiseRequested();
         if (!arrived.isEmpty()) app.take(arrived);
     });
-    QMetaObject::invokeMethod(&app, [&app, urls] {
-        app.begin();
-        if (!urls.isEmpty()) app.take(urls);
-    }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &app,
+        [&app, urls] {
+            app.begin();
+            if (!urls.isEmpty()) app.take(urls);
+        },
+        Qt::QueuedConnection);
     return QGuiApplication::exec();
 }
 

@@ -42,11 +42,12 @@ void SystemLook::askFor(const QString& group, const QString& key) {
     auto call = QDBusMessage::createMethodCall(service, object, settings, QStringLiteral("Read"));
     call << group << key;
     auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, group, key](QDBusPendingCallWatcher* done) {
-        const QDBusPendingReply<QDBusVariant> reply = *done;
-        if (reply.isValid()) take(group, key, unwrapped(QVariant::fromValue(reply.value())));
-        done->deleteLater();
-    });
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+            [this, group, key](QDBusPendingCallWatcher* done) {
+                const QDBusPendingReply<QDBusVariant> reply = *done;
+                if (reply.isValid()) take(group, key, unwrapped(QVariant::fromValue(reply.value())));
+                done->deleteLater();
+            });
 }
 
 void SystemLook::settingChanged(const QString& group, const QString& key, const QDBusVariant& value) {

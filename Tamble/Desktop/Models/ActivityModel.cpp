@@ -61,7 +61,8 @@ void ActivityModel::recover() {
             reload();
             for (const RecoveredJob& job : jobs) {
                 const bool canUndo = job.outcome == RecoveredJob::Outcome::logged;
-                emit interrupted(texts::interrupted(job), canUndo ? QString::fromStdString(job.entry.id) : QString());
+                emit interrupted(texts::interrupted(job),
+                                 canUndo ? QString::fromStdString(job.entry.id) : QString());
             }
         });
 }
@@ -91,11 +92,14 @@ QVariant ActivityModel::data(const QModelIndex& index, int role) const {
             return row.subject;
         case sizes:
             return row.bytesAfter == 0 ? QString()
-                                       : QStringLiteral("%1 → %2").arg(texts::size(row.bytesBefore), texts::size(row.bytesAfter));
+                                       : QStringLiteral("%1 → %2").arg(texts::size(row.bytesBefore),
+                                                                       texts::size(row.bytesAfter));
         case time:
             return texts::timeAgo(row.date);
         case symbol:
-            return tool == nullptr ? QStringLiteral("ui.file") : QString::fromUtf8(tool->symbol.data(), static_cast<qsizetype>(tool->symbol.size()));
+            return tool == nullptr
+                       ? QStringLiteral("ui.file")
+                       : QString::fromUtf8(tool->symbol.data(), static_cast<qsizetype>(tool->symbol.size()));
         case category:
             return categoryName(tool == nullptr ? ToolCategory::files : tool->category);
         case isUndone:
@@ -114,9 +118,9 @@ QVariant ActivityModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> ActivityModel::roleNames() const {
-    return {{entryID, "entryID"}, {title, "title"},       {subject, "subject"},     {sizes, "sizes"},
-            {time, "time"},       {symbol, "symbol"},     {category, "category"},   {isUndone, "isUndone"},
-            {isUndoing, "isUndoing"}, {report, "report"}, {canShow, "canShow"}, {details, "details"}};
+    return {{entryID, "entryID"},     {title, "title"},   {subject, "subject"},   {sizes, "sizes"},
+            {time, "time"},           {symbol, "symbol"}, {category, "category"}, {isUndone, "isUndone"},
+            {isUndoing, "isUndoing"}, {report, "report"}, {canShow, "canShow"},   {details, "details"}};
 }
 
 QString ActivityModel::detailsOf(const Row& row) const {

@@ -4,9 +4,8 @@
 #include <Tamble/Model/JobRecovery.h>
 
 #include <QAbstractListModel>
-#include <QtQmlIntegration>
 #include <QThreadPool>
-
+#include <QtQmlIntegration>
 #include <map>
 
 namespace tamble {
@@ -21,7 +20,20 @@ class ActivityModel : public QAbstractListModel {
     Q_PROPERTY(bool isLoaded READ isLoaded NOTIFY countChanged)
 
   public:
-    enum Role { entryID = Qt::UserRole, title, subject, sizes, time, symbol, category, isUndone, isUndoing, report, canShow, details };
+    enum Role {
+        entryID = Qt::UserRole,
+        title,
+        subject,
+        sizes,
+        time,
+        symbol,
+        category,
+        isUndone,
+        isUndoing,
+        report,
+        canShow,
+        details
+    };
 
     explicit ActivityModel(QObject* parent = nullptr);
     ~ActivityModel() override;

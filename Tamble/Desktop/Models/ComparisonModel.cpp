@@ -63,11 +63,12 @@ void ComparisonModel::begin() {
     const ToolSession& session = *tool_.session();
     inBackground(
         pool_, this,
-        [pictures = pictures_, tool = &session.definition(), settings = session.settings(), secrets = session.secrets,
-         input = *file(), stop = making_.get_token()] {
+        [pictures = pictures_, tool = &session.definition(), settings = session.settings(),
+         secrets = session.secrets, input = *file(), stop = making_.get_token()] {
             Made made;
             try {
-                made.result = std::make_shared<PreviewResult>(pictures->previewer().result(*tool, settings, secrets, input, stop));
+                made.result = std::make_shared<PreviewResult>(
+                    pictures->previewer().result(*tool, settings, secrets, input, stop));
                 if (made.result->skipped()) made.remark = texts::skipped(*made.result->skipped());
             } catch (const Failure& failure) {
                 made.remark = texts::engine(failure.sentence());
@@ -94,7 +95,8 @@ QString ComparisonModel::originalText() const {
 }
 
 QString ComparisonModel::result() const {
-    return result_ == nullptr || result_->files().empty() ? QString() : pictureSource(result_->files().front());
+    return result_ == nullptr || result_->files().empty() ? QString()
+                                                          : pictureSource(result_->files().front());
 }
 
 QString ComparisonModel::resultText() const {
@@ -102,7 +104,8 @@ QString ComparisonModel::resultText() const {
     if (result_ == nullptr || result_->files().empty() || file() == nullptr) return {};
     const QString kind = texts::name(result_->files().front().url.extension()).mid(1).toUpper();
     const QString change = texts::change(file()->byteSize, result_->byteSize());
-    return kind + QStringLiteral(" · ") + texts::size(result_->byteSize()) + (change.isEmpty() ? QString() : QStringLiteral(" · ") + change);
+    return kind + QStringLiteral(" · ") + texts::size(result_->byteSize()) +
+           (change.isEmpty() ? QString() : QStringLiteral(" · ") + change);
 }
 
 bool ComparisonModel::isSmaller() const {

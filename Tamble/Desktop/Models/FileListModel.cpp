@@ -87,8 +87,8 @@ QString pictureSource(const InputFile& file) {
                        : FileTypes::isPDF(file.contentType)         ? "page/0"
                                                                     : nullptr;
     if (kind == nullptr) return {};
-    return QStringLiteral("%1/%2")
-        .arg(QLatin1String(kind), QString::fromStdString(percentEncoded(file.url.native())));
+    return QStringLiteral("%1/%2").arg(QLatin1String(kind),
+                                       QString::fromStdString(percentEncoded(file.url.native())));
 }
 
 QString kindSymbol(const InputFile& file) {

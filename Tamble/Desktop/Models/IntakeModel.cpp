@@ -29,7 +29,8 @@ QString filesText(const KindCounts& all, const ToolInfo& tool, int fileCount) {
 }
 
 int othersAmong(std::size_t files, const KindCounts& counts) {
-    return static_cast<int>(files) - counts.images - counts.videos - counts.audio - counts.pdfs - counts.documents;
+    return static_cast<int>(files) - counts.images - counts.videos - counts.audio - counts.pdfs -
+           counts.documents;
 }
 
 }  // namespace
@@ -60,7 +61,8 @@ void IntakeModel::add(std::vector<std::filesystem::path> paths) {
     ++pending_;
     emit changed();
     inBackground(
-        pool_, this, [paths = std::move(paths), stop = scanning_.get_token()] { return scanned(paths, stop); },
+        pool_, this,
+        [paths = std::move(paths), stop = scanning_.get_token()] { return scanned(paths, stop); },
         [this, round = round_](ScanResult scan) {
             --pending_;
             if (round == round_) take(std::move(scan));
@@ -75,14 +77,15 @@ void IntakeModel::take(ScanResult scan) {
     const std::vector<InputFile> added = scan.files;
     std::ranges::move(scan.files, std::back_inserter(scan_.files));
     std::ranges::move(scan.roots, std::back_inserter(scan_.roots));
-    for (int ScanResult::* count :
+    for (int ScanResult::*count :
          {&ScanResult::looseFileCount, &ScanResult::otherFileCount, &ScanResult::skippedPackageCount,
           &ScanResult::skippedLinkCount, &ScanResult::unreadableCount, &ScanResult::emptyFolderCount})
         scan_.*count += scan.*count;
     describe();
     if (scan_.files.empty()) {
         const auto notes = scanNotes(scan);
-        emit nothingFound(texts::engine(notes.empty() ? "The folder you chose is empty or couldn't be read." : notes.front()));
+        emit nothingFound(texts::engine(notes.empty() ? "The folder you chose is empty or couldn't be read."
+                                                      : notes.front()));
     } else {
         emit found(added);
     }
@@ -113,8 +116,10 @@ void IntakeModel::describe() {
     QStringList places;
     if (scan_.roots.size() == 1) places << tr("“%1”").arg(texts::name(scan_.roots.front().url.filename()));
     if (scan_.roots.size() > 1) places << tr("%n folder(s)", nullptr, static_cast<int>(scan_.roots.size()));
-    if (scan_.looseFileCount > 0 && !scan_.roots.empty()) places << tr("%n single file(s)", nullptr, scan_.looseFileCount);
-    subtitle_ = places.isEmpty() ? texts::size(bytes) : tr("%1 in %2").arg(texts::size(bytes), places.join(tr(" and ")));
+    if (scan_.looseFileCount > 0 && !scan_.roots.empty())
+        places << tr("%n single file(s)", nullptr, scan_.looseFileCount);
+    subtitle_ = places.isEmpty() ? texts::size(bytes)
+                                 : tr("%1 in %2").arg(texts::size(bytes), places.join(tr(" and ")));
     notes_.clear();
     for (const auto& note : scanNotes(scan_)) notes_ << texts::engine(note);
 

@@ -7,7 +7,6 @@
 #include <QStringList>
 #include <QThreadPool>
 #include <QUrl>
-
 #include <stop_token>
 
 namespace tamble {

@@ -42,22 +42,23 @@ void JobModel::start(JobOrder order, const QString& headline, const QString& cat
     inBackground(
         pool_, this,
         [order = std::move(order), workers = workers_, told = told_, stop = stop_.get_token()]() mutable {
-            const JobRunner::Watch watch{
-                .onProgress =
-                    [told](const JobProgress& progress) {
-                        const std::scoped_lock lock(told->mutex);
-                        told->progress = progress;
-                    },
-                .onStart =
-                    [told](const InputFile& file) {
-                        const std::scoped_lock lock(told->mutex);
-                        told->file = file.url.filename().native();
-                    },
-                .onEnd =
-                    [told](ItemEnd end) {
-                        const std::scoped_lock lock(told->mutex);
-                        ++(end == ItemEnd::done ? told->done : end == ItemEnd::skipped ? told->skipped : told->failed);
-                    }};
+            const JobRunner::Watch watch{.onProgress =
+                                             [told](const JobProgress& progress) {
+                                                 const std::scoped_lock lock(told->mutex);
+                                                 told->progress = progress;
+                                             },
+                                         .onStart =
+                                             [told](const InputFile& file) {
+                                                 const std::scoped_lock lock(told->mutex);
+                                                 told->file = file.url.filename().native();
+                                             },
+                                         .onEnd =
+                                             [told](ItemEnd end) {
+                                                 const std::scoped_lock lock(told->mutex);
+                                                 ++(end == ItemEnd::done      ? told->done
+                                                    : end == ItemEnd::skipped ? told->skipped
+                                                                              : told->failed);
+                                             }};
             return std::make_shared<FinishedJob>(JobRunner(workers).run(std::move(order), watch, stop));
         },
         [this](const std::shared_ptr<FinishedJob>& job) {
@@ -88,7 +89,9 @@ double JobModel::fraction() const {
 
 QString JobModel::position() const {
     const QLocale locale;
-    if (isSaving()) return tr("Saving %1 of %2").arg(locale.toString(progress_.completed), locale.toString(progress_.total));
+    if (isSaving())
+        return tr("Saving %1 of %2")
+            .arg(locale.toString(progress_.completed), locale.toString(progress_.total));
     if (isStopping()) return tr("Stopping…");
     const int current = std::min(progress_.completed + 1, progress_.total);
     const QString place = tr("%1 of %2").arg(locale.toString(current), locale.toString(progress_.total));
@@ -105,7 +108,8 @@ QString JobModel::counts() const {
 
 QString JobModel::timeLeft() const {
     const qint64 elapsed = clock_.elapsed();
-    if (!isRunning_ || isSaving() || isStopping() || elapsed < soonestGuess || fraction() < leastForGuess) return {};
+    if (!isRunning_ || isSaving() || isStopping() || elapsed < soonestGuess || fraction() < leastForGuess)
+        return {};
     return texts::timeLeft(static_cast<double>(elapsed) / 1000 * (1 - fraction()) / fraction());
 }
 

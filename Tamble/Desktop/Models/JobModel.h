@@ -4,10 +4,9 @@
 
 #include <QElapsedTimer>
 #include <QObject>
-#include <QtQmlIntegration>
 #include <QThreadPool>
 #include <QTimer>
-
+#include <QtQmlIntegration>
 #include <atomic>
 #include <mutex>
 

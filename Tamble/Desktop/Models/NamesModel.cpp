@@ -25,7 +25,8 @@ void NamesModel::refresh() {
     const ToolSession& session = *tool_.session();
     inBackground(
         pool_, this,
-        [tool = &session.definition(), settings = session.settings(), files = session.files(), way = session.renameWay] {
+        [tool = &session.definition(), settings = session.settings(), files = session.files(),
+         way = session.renameWay] {
             const ToolWork work = tool->makeWork(settings, {});
             return std::get<std::unique_ptr<FileRenamer>>(work)->plan(files, way);
         },
@@ -80,13 +81,18 @@ QVariant NamesModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> NamesModel::roleNames() const {
-    return {{oldName, "oldName"}, {newName, "newName"}, {problem, "problem"}, {isSame, "isSame"}, {folder, "folder"}};
+    return {{oldName, "oldName"},
+            {newName, "newName"},
+            {problem, "problem"},
+            {isSame, "isSame"},
+            {folder, "folder"}};
 }
 
 QString NamesModel::summary() const {
     if (names_.empty()) return {};
     const QString changes = tr("%n name(s) will change", nullptr, changeCount_);
-    return problemCount_ == 0 ? changes : changes + QStringLiteral(" · ") + tr("%n problem(s)", nullptr, problemCount_);
+    return problemCount_ == 0 ? changes
+                              : changes + QStringLiteral(" · ") + tr("%n problem(s)", nullptr, problemCount_);
 }
 
 }  // namespace tamble

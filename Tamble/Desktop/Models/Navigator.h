@@ -2,7 +2,6 @@
 
 #include <QObject>
 #include <QtQmlIntegration>
-
 #include <vector>
 
 namespace tamble {

@@ -98,8 +98,9 @@ QVariant PanelModel::data(const QModelIndex& index, int role) const {
         case highest:
             return static_cast<int>(shownSection.range.second);
         case typed:
-            return first == nullptr ? QString::fromStdString(session_->secrets.password)
-                                    : QString::fromStdString(PanelState::typedText(*first, session_->settings()));
+            return first == nullptr
+                       ? QString::fromStdString(session_->secrets.password)
+                       : QString::fromStdString(PanelState::typedText(*first, session_->settings()));
         case placeholder:
             return texts::engine(shownSection.placeholder);
         case note:
@@ -110,9 +111,10 @@ QVariant PanelModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> PanelModel::roleNames() const {
-    return {{control, "control"},   {heading, "heading"}, {choices, "choices"}, {moreLabel, "moreLabel"},
-            {moreChoices, "moreChoices"}, {label, "label"},     {number, "number"},   {lowest, "lowest"},
-            {highest, "highest"},   {typed, "typed"},     {placeholder, "placeholder"}, {note, "note"}};
+    return {{control, "control"},     {heading, "heading"},         {choices, "choices"},
+            {moreLabel, "moreLabel"}, {moreChoices, "moreChoices"}, {label, "label"},
+            {number, "number"},       {lowest, "lowest"},           {highest, "highest"},
+            {typed, "typed"},         {placeholder, "placeholder"}, {note, "note"}};
 }
 
 const PanelSection& PanelModel::section(int row) const {

@@ -14,7 +14,20 @@ class PanelModel : public QAbstractListModel {
     QML_UNCREATABLE("It belongs to a tool.")
 
   public:
-    enum Role { control = Qt::UserRole, heading, choices, moreLabel, moreChoices, label, number, lowest, highest, typed, placeholder, note };
+    enum Role {
+        control = Qt::UserRole,
+        heading,
+        choices,
+        moreLabel,
+        moreChoices,
+        label,
+        number,
+        lowest,
+        highest,
+        typed,
+        placeholder,
+        note
+    };
 
     explicit PanelModel(QObject* parent = nullptr);
     /// Null for none.

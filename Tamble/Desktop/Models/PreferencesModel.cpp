@@ -54,7 +54,8 @@ QString SaveDefaults::folder() const {
 QString SaveDefaults::example() const {
     const auto pictures = folders::home() / tr("Pictures").toStdString();
     const auto root = fromFolder_ ? pictures / "Goa trip" : pictures;
-    const InputFile file{.url = FilePath(root / "beach.jpg"), .root = FilePath(root), .isLoose = !fromFolder_};
+    const InputFile file{
+        .url = FilePath(root / "beach.jpg"), .root = FilePath(root), .isLoose = !fromFolder_};
     const auto target = OutputPlanner{save_.saveLocation(today())}.intendedURL(file, "beach.webp");
     return texts::place(file.url) + QStringLiteral(" → ") + texts::place(target);
 }
@@ -62,10 +63,12 @@ QString SaveDefaults::example() const {
 PreferencesModel::PreferencesModel(PreferencesStore& store, QObject* parent)
     : QObject(parent),
       store_(store),
-      folders_(store.saveFolders(), true,
-               [this](const SavePreferences& save) { write([&] { store_.setSaveFolders(save); }); }, this),
-      looseFiles_(store.saveLooseFiles(), false,
-                  [this](const SavePreferences& save) { write([&] { store_.setSaveLooseFiles(save); }); }, this) {}
+      folders_(
+          store.saveFolders(), true,
+          [this](const SavePreferences& save) { write([&] { store_.setSaveFolders(save); }); }, this),
+      looseFiles_(
+          store.saveLooseFiles(), false,
+          [this](const SavePreferences& save) { write([&] { store_.setSaveLooseFiles(save); }); }, this) {}
 
 void PreferencesModel::write(const std::function<void()>& change) {
     try {

@@ -3,8 +3,8 @@
 #include <Tamble/Model/PreferencesStore.h>
 
 #include <QObject>
-#include <QtQmlIntegration>
 #include <QUrl>
+#include <QtQmlIntegration>
 
 namespace tamble {
 
@@ -58,7 +58,8 @@ class PreferencesModel : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("It belongs to the application.")
     Q_PROPERTY(int appearance READ appearance WRITE setAppearance NOTIFY changed)
-    Q_PROPERTY(bool rememberFolderChoice READ rememberFolderChoice WRITE setRememberFolderChoice NOTIFY changed)
+    Q_PROPERTY(
+        bool rememberFolderChoice READ rememberFolderChoice WRITE setRememberFolderChoice NOTIFY changed)
     Q_PROPERTY(bool notifyWhenDone READ notifyWhenDone WRITE setNotifyWhenDone NOTIFY changed)
     Q_PROPERTY(int atOnce READ atOnce WRITE setAtOnce NOTIFY changed)
     Q_PROPERTY(int mostAtOnce READ mostAtOnce CONSTANT)

@@ -31,7 +31,8 @@ QString countsOf(const FolderSummary& folder) {
 QStringList skipTexts(const JobResult& result) {
     std::map<QString, int> reasons;
     for (const ItemResult& item : result.items) {
-        if (const auto* skipped = std::get_if<outcome::Skipped>(&item.outcome)) ++reasons[texts::skipped(skipped->value)];
+        if (const auto* skipped = std::get_if<outcome::Skipped>(&item.outcome))
+            ++reasons[texts::skipped(skipped->value)];
     }
     QStringList lines;
     for (const auto& [reason, count] : reasons) {
@@ -78,8 +79,9 @@ void ResultModel::describe(const JobResult& result, const ToolInfo& tool) {
         title_ = texts::finished(tool.id, totals.done);
         const bool changesSize = totals.bytesAfter > 0 && totals.bytesAfter != totals.bytesBefore;
         if (changesSize)
-            parts << tr("%1 → %2, %3").arg(texts::size(totals.bytesBefore), texts::size(totals.bytesAfter),
-                                           texts::change(totals.bytesBefore, totals.bytesAfter));
+            parts << tr("%1 → %2, %3")
+                         .arg(texts::size(totals.bytesBefore), texts::size(totals.bytesAfter),
+                              texts::change(totals.bytesBefore, totals.bytesAfter));
         if (totals.savedFolders > 0) parts << tr("%n new file(s)", nullptr, totals.saved);
     }
     if (!result.wasCancelled) {
@@ -87,8 +89,9 @@ void ResultModel::describe(const JobResult& result, const ToolInfo& tool) {
         if (totals.failed > 0) parts << tr("%n couldn't be done", nullptr, totals.failed);
     }
     subtitle_ = parts.join(dot);
-    mood_ = result.wasCancelled || totals.done == 0 ? (totals.failed > 0 ? QStringLiteral("sorry") : QStringLiteral("waiting"))
-                                                    : QStringLiteral("happy");
+    mood_ = result.wasCancelled || totals.done == 0
+                ? (totals.failed > 0 ? QStringLiteral("sorry") : QStringLiteral("waiting"))
+                : QStringLiteral("happy");
 }
 
 void ResultModel::list(const JobResult& result) {
@@ -107,7 +110,8 @@ void ResultModel::list(const JobResult& result) {
         if (const auto* failed = std::get_if<outcome::Failed>(&item.outcome)) {
             failures.push_back(rowOf(item.file, failureText(failed->value)));
             failed_.push_back(item.file);
-        } else if (const auto* done = std::get_if<outcome::Done>(&item.outcome); done != nullptr && done->note) {
+        } else if (const auto* done = std::get_if<outcome::Done>(&item.outcome);
+                   done != nullptr && done->note) {
             notes.push_back(rowOf(item.file, texts::note(*done->note)));
         }
     }

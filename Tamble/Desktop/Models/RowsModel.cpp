@@ -35,7 +35,7 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> RowsModel::roleNames() const {
-    return {{title, "title"}, {detail, "detail"}, {place, "place"},
+    return {{title, "title"}, {detail, "detail"},   {place, "place"},
             {depth, "depth"}, {picture, "picture"}, {kind, "kind"}};
 }
 

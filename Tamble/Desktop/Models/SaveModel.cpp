@@ -16,8 +16,7 @@ void SaveModel::show(ToolSession* session) {
 
 void SaveModel::sourcesChanged() {
     if (session_ != nullptr && !isTouched_) {
-        session_->save =
-            session_->hasFolders() ? preferences_.saveFolders() : preferences_.saveLooseFiles();
+        session_->save = session_->hasFolders() ? preferences_.saveFolders() : preferences_.saveLooseFiles();
     }
     emit changed();
 }
@@ -40,7 +39,7 @@ const SavePreferences& SaveModel::save() const {
     return session_ == nullptr ? none : session_->save;
 }
 
-void SaveModel::change(auto SavePreferences::* member, auto value) {
+void SaveModel::change(auto SavePreferences::*member, auto value) {
     if (session_ == nullptr || session_->save.*member == value) return;
     session_->save.*member = std::move(value);
     isTouched_ = true;

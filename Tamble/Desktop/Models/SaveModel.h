@@ -4,8 +4,8 @@
 #include <Tamble/Model/ToolSession.h>
 
 #include <QObject>
-#include <QtQmlIntegration>
 #include <QUrl>
+#include <QtQmlIntegration>
 
 namespace tamble {
 
@@ -63,7 +63,7 @@ class SaveModel : public QObject {
 
   private:
     const SavePreferences& save() const;
-    void change(auto SavePreferences::* member, auto value);
+    void change(auto SavePreferences::*member, auto value);
 
     PreferencesStore& preferences_;
     ToolSession* session_ = nullptr;

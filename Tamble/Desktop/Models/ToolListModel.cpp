@@ -47,7 +47,7 @@ QVariant ToolListModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> ToolListModel::roleNames() const {
-    return {{toolID, "toolID"}, {title, "title"},       {subtitle, "subtitle"},  {symbol, "symbol"},
+    return {{toolID, "toolID"},     {title, "title"}, {subtitle, "subtitle"},  {symbol, "symbol"},
             {category, "category"}, {files, "files"}, {available, "available"}};
 }
 

@@ -4,7 +4,6 @@
 
 #include <QAbstractListModel>
 #include <QtQmlIntegration>
-
 #include <vector>
 
 namespace tamble {

@@ -54,7 +54,8 @@ void ToolModel::open(const ToolInfo& tool, std::span<const InputFile> files) {
 void ToolModel::add(std::span<const InputFile> files) {
     if (!isOpen()) return;
     const std::size_t taken = session_->add(files);
-    setNotice(taken > 0 || files.empty() ? QString() : tr("None of these files is of a kind that this tool works with."));
+    setNotice(taken > 0 || files.empty() ? QString()
+                                         : tr("None of these files is of a kind that this tool works with."));
     files_.refresh();
     filesChanged();
 }
@@ -102,7 +103,8 @@ QString ToolModel::editor() const {
 QString ToolModel::summary() const {
     if (!isOpen() || session_->files().empty()) return subtitle();
     const auto& files = session_->files();
-    return texts::files(KindCounts::of(files), files.size()) + QStringLiteral(" · ") + texts::size(session_->inputBytes());
+    return texts::files(KindCounts::of(files), files.size()) + QStringLiteral(" · ") +
+           texts::size(session_->inputBytes());
 }
 
 QString ToolModel::missing() const {
@@ -125,7 +127,9 @@ QString ToolModel::estimate() const {
 }
 
 QString ToolModel::estimatedChange() const {
-    return estimatedBytes_ && !isEstimating_ && isOpen() ? texts::change(session_->inputBytes(), *estimatedBytes_) : QString();
+    return estimatedBytes_ && !isEstimating_ && isOpen()
+               ? texts::change(session_->inputBytes(), *estimatedBytes_)
+               : QString();
 }
 
 void ToolModel::change(const Json& changes) {
@@ -171,7 +175,8 @@ void ToolModel::beginEstimate() {
 
 void ToolModel::beginExample() {
     const std::uint64_t number = ++exampleNumber_;
-    if (!isOpen() || session_->files().empty() || (session_->renames() && session_->renameWay == RenameWay::inPlace)) {
+    if (!isOpen() || session_->files().empty() ||
+        (session_->renames() && session_->renameWay == RenameWay::inPlace)) {
         example_.clear();
         emit exampleChanged();
         return;
@@ -180,7 +185,8 @@ void ToolModel::beginExample() {
     // One file tells how the others are named, but a tool that makes one of all names it after all.
     if (!session_->combines()) order.files.resize(1);
     inBackground(
-        pool_, this, [order = std::move(order)] { return texts::example(order, JobRunner(nullptr).plan(order)); },
+        pool_, this,
+        [order = std::move(order)] { return texts::example(order, JobRunner(nullptr).plan(order)); },
         [this, number](const QString& example) {
             if (number != exampleNumber_) return;
             example_ = example;

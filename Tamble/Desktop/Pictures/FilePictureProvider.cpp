@@ -36,9 +36,12 @@ std::optional<Request> parsed(const QString& id, const QSize& requestedSize) {
         kind = take();
     }
     request.size = requestedSize.isEmpty() ? QSize(usualSide, usualSide) : requestedSize;
-    request.wanted.kind = kind == QLatin1String("photo") ? FilePictures::Wanted::Kind::photo : FilePictures::Wanted::Kind::page;
+    request.wanted.kind =
+        kind == QLatin1String("photo") ? FilePictures::Wanted::Kind::photo : FilePictures::Wanted::Kind::page;
     if (kind == QLatin1String("page")) request.wanted.page = take().toInt();
-    request.wanted.pixels = std::min(longestPreviewSide, std::max(request.size.width(), request.size.height()) * (request.radius ? sizes : 1));
+    request.wanted.pixels =
+        std::min(longestPreviewSide,
+                 std::max(request.size.width(), request.size.height()) * (request.radius ? sizes : 1));
     const auto path = percentDecoded(rest.toStdString());
     if (!path) return std::nullopt;
     request.wanted.file = *path;
@@ -56,7 +59,9 @@ QImage thumbnail(const QImage& picture, const Request& request) {
     shape.addRoundedRect(QRectF(QPointF(), request.size), *request.radius, *request.radius);
     painter.setClipPath(shape);
     const QSize filled = picture.size().scaled(request.size, Qt::KeepAspectRatioByExpanding);
-    const int top = request.wanted.kind == FilePictures::Wanted::Kind::page ? 0 : (request.size.height() - filled.height()) / 2;
+    const int top = request.wanted.kind == FilePictures::Wanted::Kind::page
+                        ? 0
+                        : (request.size.height() - filled.height()) / 2;
     painter.drawImage(QRect(QPoint((request.size.width() - filled.width()) / 2, top), filled), picture);
     return result;
 }
@@ -76,8 +81,12 @@ class Response final : public QQuickImageResponse {
             emit finished();
         });
     }
-    QQuickTextureFactory* textureFactory() const override { return QQuickTextureFactory::textureFactoryForImage(image_); }
-    QString errorString() const override { return image_.isNull() ? QStringLiteral("no picture") : QString(); }
+    QQuickTextureFactory* textureFactory() const override {
+        return QQuickTextureFactory::textureFactoryForImage(image_);
+    }
+    QString errorString() const override {
+        return image_.isNull() ? QStringLiteral("no picture") : QString();
+    }
     void cancel() override { stop_.request_stop(); }
 
   private:
@@ -89,7 +98,8 @@ class Response final : public QQuickImageResponse {
 
 }  // namespace
 
-QQuickImageResponse* FilePictureProvider::requestImageResponse(const QString& id, const QSize& requestedSize) {
+QQuickImageResponse* FilePictureProvider::requestImageResponse(const QString& id,
+                                                               const QSize& requestedSize) {
     auto response = std::make_unique<Response>(pictures_, parsed(id, requestedSize));
     response->begin();
     return response.release();

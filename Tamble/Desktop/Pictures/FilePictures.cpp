@@ -13,14 +13,15 @@ constexpr int atOnce = 2;
 
 QByteArray keyOf(const FilePictures::Wanted& wanted) {
     const auto state = FileFingerprint::of(wanted.file);
-    return QByteArray::fromStdString(fmt::format("{}|{}|{}|{}|{}|{:.4f}", static_cast<int>(wanted.kind), wanted.page,
-                                                 wanted.pixels, wanted.file.native(), state ? state->size : -1,
-                                                 state ? state->modified : 0.0));
+    return QByteArray::fromStdString(fmt::format("{}|{}|{}|{}|{}|{:.4f}", static_cast<int>(wanted.kind),
+                                                 wanted.page, wanted.pixels, wanted.file.native(),
+                                                 state ? state->size : -1, state ? state->modified : 0.0));
 }
 
 }  // namespace
 
-FilePictures::FilePictures(std::shared_ptr<WorkerPool> workers) : previewer_(std::move(workers)), kept_(keptKibibytes) {
+FilePictures::FilePictures(std::shared_ptr<WorkerPool> workers)
+    : previewer_(std::move(workers)), kept_(keptKibibytes) {
     pool_.setMaxThreadCount(atOnce);
 }
 
@@ -44,7 +45,8 @@ QImage FilePictures::picture(const Wanted& wanted, std::stop_token stop) {
                                    ? previewer_.photo(file, wanted.pixels, stop)
                                    : previewer_.page(file, wanted.page, wanted.pixels, secrets, stop));
         const QMutexLocker lock(&mutex_);
-        kept_.insert(key, std::make_unique<QImage>(image).release(), std::max(1, static_cast<int>(image.sizeInBytes() >> 10)));
+        kept_.insert(key, std::make_unique<QImage>(image).release(),
+                     std::max(1, static_cast<int>(image.sizeInBytes() >> 10)));
         return image;
     } catch (const std::exception&) {
         return {};
@@ -65,7 +67,8 @@ QImage imageOf(const PreviewPicture& picture) {
     const auto format = picture.channels == 4 ? QImage::Format_RGBA8888 : QImage::Format_RGB888;
     const qsizetype stride = static_cast<qsizetype>(picture.width) * picture.channels;
     const QImage view(picture.samples.data(), picture.width, picture.height, stride, format);
-    return view.convertToFormat(picture.channels == 4 ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    return view.convertToFormat(picture.channels == 4 ? QImage::Format_ARGB32_Premultiplied
+                                                      : QImage::Format_RGB32);
 }
 
 }  // namespace tamble

@@ -1,7 +1,6 @@
 #include <Tamble/Desktop/Pictures/SymbolProvider.h>
 
 #include <QColor>
-
 #include <cmath>
 
 namespace tamble {

@@ -3,13 +3,12 @@
 #include <QCoreApplication>
 #include <QPointer>
 #include <QThreadPool>
-
 #include <memory>
 
 namespace tamble {
 
-/// Runs `work` on the pool, and then `done` with what it answered on the main thread, unless `receiver`, which
-/// lives there, is gone by then. `work` must not throw.
+/// Runs `work` on the pool, and then `done` with what it answered on the main thread, unless `receiver`,
+/// which lives there, is gone by then. `work` must not throw.
 template <typename Work, typename Done>
 void inBackground(QThreadPool& pool, QObject* receiver, Work work, Done done) {
     pool.start([alive = QPointer<QObject>(receiver), work = std::make_shared<Work>(std::move(work)),

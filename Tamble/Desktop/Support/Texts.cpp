@@ -10,7 +10,6 @@
 #include <QDateTime>
 #include <QLocale>
 #include <QStringList>
-
 #include <cmath>
 
 namespace tamble {
@@ -42,7 +41,8 @@ QString size(std::int64_t bytes) {
 
 QString change(std::int64_t bytesBefore, std::int64_t bytesAfter) {
     if (bytesBefore <= 0) return {};
-    const double percent = 100.0 * static_cast<double>(bytesAfter - bytesBefore) / static_cast<double>(bytesBefore);
+    const double percent =
+        100.0 * static_cast<double>(bytesAfter - bytesBefore) / static_cast<double>(bytesBefore);
     const int whole = static_cast<int>(std::lround(std::abs(percent)));
     if (whole == 0) return tr("the same size");
     // "100 % smaller" would say that nothing is left.
@@ -114,13 +114,17 @@ QString skipped(const SkipReason& reason) {
 QString note(ItemNote note) {
     switch (note) {
         case ItemNote::originalKeptNoBin:
-            return tr("There is no Bin for this disk, so the original was kept and the new file saved beside it.");
+            return tr(
+                "There is no Bin for this disk, so the original was kept and the new file saved beside it.");
         case ItemNote::existingKeptNoBin:
-            return tr("There is no Bin for this disk, so the existing file was kept and the new file saved with a number.");
+            return tr(
+                "There is no Bin for this disk, so the existing file was kept and the new file saved with a "
+                "number.");
         case ItemNote::sealBroken:
             break;
     }
-    return tr("This PDF is digitally signed. The new file is a changed one, so the seal no longer holds for it.");
+    return tr(
+        "This PDF is digitally signed. The new file is a changed one, so the seal no longer holds for it.");
 }
 
 }  // namespace texts

@@ -14,7 +14,8 @@ struct Undo {
 QString namesBack(const UndoReport& report) {
     QString text = Undo::tr("%n file(s) have their old names again.", nullptr, report.restoredItems);
     if (report.problems > 0)
-        text += QLatin1Char(' ') + Undo::tr("%n file(s) couldn't get their old names back.", nullptr, report.problems);
+        text += QLatin1Char(' ') +
+                Undo::tr("%n file(s) couldn't get their old names back.", nullptr, report.problems);
     return text;
 }
 
@@ -35,9 +36,11 @@ QString undone(const UndoReport& report, const UndoRecord& record) {
     }
     if (report.restoredItems > 0) parts << Undo::tr("%n files put back.", nullptr, report.restoredItems);
     if (report.problems > 0)
-        parts << Undo::tr("%n items couldn't be put back (the Bin may have been emptied).", nullptr, report.problems);
+        parts << Undo::tr("%n items couldn't be put back (the Bin may have been emptied).", nullptr,
+                          report.problems);
     if (report.keptBecauseChanged > 0)
-        parts << Undo::tr("%n new files were changed after the job, so they were kept.", nullptr, report.keptBecauseChanged);
+        parts << Undo::tr("%n new files were changed after the job, so they were kept.", nullptr,
+                          report.keptBecauseChanged);
     return parts.join(QLatin1Char(' '));
 }
 
@@ -48,15 +51,22 @@ QString interrupted(const RecoveredJob& job) {
         case RecoveredJob::Outcome::namesPutBack:
             return Undo::tr("Renaming “%1” was interrupted. All files have their old names.").arg(subject);
         case RecoveredJob::Outcome::namesNotBack:
-            return Undo::tr("Renaming “%1” was interrupted, and %n file(s) couldn't get their old names back. The next start tries it again.", nullptr, count(job.stranded)).arg(subject);
+            return Undo::tr(
+                       "Renaming “%1” was interrupted, and %n file(s) couldn't get their old names back. The "
+                       "next start tries it again.",
+                       nullptr, count(job.stranded))
+                .arg(subject);
         case RecoveredJob::Outcome::logged:
             break;
     }
     if (isOfRenames(undo))
-        return Undo::tr("Renaming “%1” was interrupted when %n file(s) had their new names.", nullptr, count(undo.renamedItems)).arg(subject);
+        return Undo::tr("Renaming “%1” was interrupted when %n file(s) had their new names.", nullptr,
+                        count(undo.renamedItems))
+            .arg(subject);
     const QString saved = Undo::tr("%n new file(s) were saved", nullptr, job.entry.doneCount);
     const QString binned = Undo::tr("%n original(s) are in the Bin", nullptr, count(undo.trashedItems));
-    return Undo::tr("A job over “%1” was interrupted while it saved: %2, %3. You can put everything back.").arg(subject, saved, binned);
+    return Undo::tr("A job over “%1” was interrupted while it saved: %2, %3. You can put everything back.")
+        .arg(subject, saved, binned);
 }
 
 }  // namespace tamble::texts

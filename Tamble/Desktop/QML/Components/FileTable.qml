@@ -154,7 +154,6 @@ Surface {
                 anchors { right: remove.left; rightMargin: 6; verticalCenter: parent.verticalCenter }
                 quiet: true
                 text: row.size
-                font.features: ({ "tnum": 1 })
                 Accessible.ignored: true
             }
             IconButton {

@@ -11,7 +11,7 @@ T.SpinBox {
     stepSize: 1
     leftPadding: 40
     rightPadding: 40
-    font { family: Theme.family; pixelSize: Theme.bodySize; features: ({ "tnum": 1 }) }
+    font { family: Theme.family; pixelSize: Theme.bodySize }
     validator: IntValidator { bottom: root.from; top: root.to }
     textFromValue: (value, locale) => value.toString()
     valueFromText: (text, locale) => parseInt(text) || root.from

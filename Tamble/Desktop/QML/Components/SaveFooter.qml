@@ -83,7 +83,7 @@ Rectangle {
             Column {
                 anchors.verticalCenter: parent.verticalCenter
 
-                Label { anchors.right: parent.right; visible: text; text: App.tool.missing ? "" : App.tool.estimate; font { weight: Font.DemiBold; features: ({ "tnum": 1 }) } }
+                Label { anchors.right: parent.right; visible: text; text: App.tool.missing ? "" : App.tool.estimate; font.weight: Font.DemiBold }
                 Label { anchors.right: parent.right; visible: text && !App.tool.missing; quiet: true; text: App.tool.estimatedChange }
                 Label {
                     anchors.right: parent.right

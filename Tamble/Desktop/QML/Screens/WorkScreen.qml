@@ -29,7 +29,7 @@ Item {
                 kind: "strong"
                 quiet: true
                 text: App.job.position
-                font { weight: Font.Normal; features: ({ "tnum": 1 }) }
+                font.weight: Font.Normal
                 horizontalAlignment: Text.AlignHCenter
                 elide: Text.ElideMiddle
             }
@@ -39,8 +39,8 @@ Item {
             width: parent.width
             height: counts.height
 
-            Label { id: counts; quiet: true; text: App.job.counts; font.features: ({ "tnum": 1 }) }
-            Label { anchors.right: parent.right; quiet: true; text: App.job.timeLeft; font.features: ({ "tnum": 1 }) }
+            Label { id: counts; quiet: true; text: App.job.counts }
+            Label { anchors.right: parent.right; quiet: true; text: App.job.timeLeft }
         }
         PushButton {
             anchors.horizontalCenter: parent.horizontalCenter
