@@ -95,4 +95,11 @@ QString NamesModel::summary() const {
                               : changes + QStringLiteral(" · ") + tr("%n problem(s)", nullptr, problemCount_);
 }
 
+QString NamesModel::obstacle() const {
+    if (names_.empty()) return {};
+    const bool inPlace = tool_.isOpen() && tool_.session()->renameWay == RenameWay::inPlace;
+    if (inPlace && problemCount_ > 0) return tr("%n name(s) can't be given yet.", nullptr, problemCount_);
+    return changeCount_ == 0 ? tr("All names stay as they are so far.") : QString();
+}
+
 }  // namespace tamble

@@ -11,6 +11,7 @@ class NamesModel : public QAbstractListModel {
     QML_UNCREATABLE("It belongs to the application.")
     Q_PROPERTY(QString summary READ summary NOTIFY planned)
     Q_PROPERTY(int problemCount READ problemCount NOTIFY planned)
+    Q_PROPERTY(QString obstacle READ obstacle NOTIFY planned)
     Q_PROPERTY(bool isActive READ isActive WRITE setActive NOTIFY planned)
 
   public:
@@ -28,6 +29,8 @@ class NamesModel : public QAbstractListModel {
     /// "198 of 200 get a new name".
     QString summary() const;
     int problemCount() const { return problemCount_; }
+    /// Why the files cannot be renamed like this; empty when they can.
+    QString obstacle() const;
 
   signals:
     void planned();

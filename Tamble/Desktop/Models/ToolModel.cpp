@@ -112,7 +112,8 @@ QString ToolModel::missing() const {
 }
 
 QString ToolModel::startText() const {
-    return isOpen() ? texts::start(*session_) : QString();
+    if (!isOpen()) return {};
+    return session_->files().empty() ? title() : texts::start(*session_);
 }
 
 bool ToolModel::canStart() const {

@@ -10,7 +10,7 @@ T.RadioButton {
     property string category
     property bool chosen: false
 
-    implicitHeight: texts.implicitHeight + 22
+    implicitHeight: texts.implicitHeight + 11
     leftPadding: 12
     rightPadding: 12
     checked: chosen

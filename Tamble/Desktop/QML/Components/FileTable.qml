@@ -60,7 +60,7 @@ Surface {
     ListView {
         id: list
 
-        anchors { left: parent.left; right: parent.right; top: bar.bottom; bottom: parent.bottom; bottomMargin: 6 }
+        anchors { left: parent.left; right: parent.right; top: bar.bottom; topMargin: 4; bottom: parent.bottom; bottomMargin: 6 }
         model: root.files
         clip: true
         reuseItems: true

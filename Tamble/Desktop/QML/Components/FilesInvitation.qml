@@ -23,10 +23,11 @@ Rectangle {
         }
         Label { width: parent.width; kind: "heading"; text: App.tool.notice || qsTr("Drop files here"); horizontalAlignment: Text.AlignHCenter; wrapMode: Text.Wrap }
         Label { width: parent.width; quiet: true; text: App.tool.subtitle; horizontalAlignment: Text.AlignHCenter; wrapMode: Text.Wrap }
-        Flow {
+        Grid {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: Math.min(parent.width, 290)
+            columns: root.width < 380 ? 1 : 2
             spacing: Theme.space3
+            horizontalItemAlignment: Grid.AlignHCenter
 
             PushButton { kind: "main"; big: true; text: qsTr("Add files…"); onClicked: App.choose("files", "", urls => App.take(urls)) }
             PushButton { big: true; text: qsTr("Add folder…"); onClicked: App.choose("folder", "", urls => App.take(urls)) }

@@ -7,6 +7,7 @@ T.ToolTip {
     id: root
 
     property Item of
+    property bool beside: false // in place of below
 
     parent: of
     visible: of.hovered && text
@@ -15,8 +16,8 @@ T.ToolTip {
     padding: 6
     leftPadding: 10
     rightPadding: 10
-    x: (of.width - width) / 2
-    y: of.height + 6
+    x: beside ? (of.mirrored ? -width - 8 : of.width + 8) : (of.width - width) / 2
+    y: beside ? (of.height - height) / 2 : of.height + 6
     implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
 

@@ -8,6 +8,7 @@ T.Button {
     property string kind: "plain" // plain, main, quiet, danger
     property bool big: false
     property string sign
+    property int elide: Text.ElideRight
 
     readonly property bool main: kind === "main"
     readonly property color inkColor: main ? Theme.brandInk : kind === "danger" ? Theme.bad : kind === "quiet" ? Theme.ink2 : Theme.ink
@@ -44,7 +45,7 @@ T.Button {
                 text: root.text
                 font: root.font
                 color: root.inkColor
-                elide: Text.ElideRight
+                elide: root.elide
                 textFormat: Text.PlainText
                 Accessible.ignored: true
             }

@@ -18,6 +18,7 @@ T.Popup {
     anchors.centerIn: parent
     width: Math.min(460, parent.width - 48)
     padding: 24
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     modal: true
     focus: true
     closePolicy: T.Popup.CloseOnEscape

@@ -11,6 +11,7 @@ T.Popup {
     y: Math.min(110, parent.height / 8)
     width: Math.min(600, parent.width - 48)
     padding: 10
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     modal: true
     focus: true
     onAboutToShow: {

@@ -9,7 +9,8 @@ Rectangle {
 
     readonly property SaveModel save: App.tool.save
     readonly property bool tight: width < 860
-    readonly property int gap: Math.min(margin, 36)
+    readonly property string namesProblem: App.tool.editor !== "names" || App.tool.files.count === 0 ? "" : App.names.obstacle
+    readonly property bool canStart: App.tool.canStart && !namesProblem
 
     height: content.height + 28
     color: Theme.surface
@@ -52,7 +53,8 @@ Rectangle {
                 }
                 PushButton {
                     visible: root.save.mode === SaveModel.OneFolder && (!root.save.renames || root.save.renamesCopies)
-                    width: Math.min(implicitWidth, 260)
+                    width: Math.min(implicitWidth, 300)
+                    elide: Text.ElideMiddle
                     sign: "ui.folder"
                     text: root.save.folder
                     Accessible.description: qsTr("Choose a folder")
@@ -90,7 +92,7 @@ Rectangle {
                     width: Math.min(implicitWidth, 240)
                     visible: text
                     color: Theme.warn
-                    text: App.tool.missing || (App.tool.editor === "names" && App.names.problemCount > 0 && !root.save.renamesCopies ? App.names.summary : "")
+                    text: App.tool.missing || root.namesProblem
                     wrapMode: Text.Wrap
                     horizontalAlignment: Text.AlignRight
                 }
@@ -98,12 +100,12 @@ Rectangle {
             PushButton {
                 kind: "main"
                 big: true
-                enabled: App.tool.canStart && !(App.tool.editor === "names" && !root.save.renamesCopies && App.names.problemCount > 0)
+                enabled: root.canStart
                 text: App.tool.startText
                 onClicked: App.startJob()
             }
         }
     }
 
-    Shortcut { sequence: "Ctrl+Return"; enabled: App.tool.canStart; onActivated: App.startJob() }
+    Shortcut { sequence: "Ctrl+Return"; enabled: root.canStart; onActivated: App.startJob() }
 }

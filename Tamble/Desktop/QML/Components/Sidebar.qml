@@ -67,7 +67,7 @@ Item {
             FocusRing { of: entry }
         }
 
-        Hint { of: entry; text: root.narrow ? entry.text : "" }
+        Hint { of: entry; beside: true; text: root.narrow ? entry.text : "" }
         HoverHandler { cursorShape: Qt.PointingHandCursor }
     }
 
@@ -159,7 +159,7 @@ Item {
 
                 FocusRing { of: find }
             }
-            Hint { of: find; text: root.narrow ? find.text : "" }
+            Hint { of: find; beside: true; text: root.narrow ? find.text : "" }
         }
 
         Item { width: 1; height: 10 }

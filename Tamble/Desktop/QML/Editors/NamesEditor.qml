@@ -34,7 +34,7 @@ Surface {
     ListView {
         id: list
 
-        anchors { left: parent.left; right: parent.right; top: bar.bottom; bottom: parent.bottom; bottomMargin: 6 }
+        anchors { left: parent.left; right: parent.right; top: bar.bottom; topMargin: 4; bottom: parent.bottom; bottomMargin: 6 }
         model: App.names
         clip: true
         reuseItems: true
