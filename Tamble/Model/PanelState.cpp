@@ -27,10 +27,20 @@ Json withText(const Json& pattern, const std::string& text) {
     return filled;
 }
 
+/// Whether the setting is as the choice says, an empty text of which stands for all.
+bool fits(const Json& setting, const Json& pattern) {
+    if (pattern.is_string() && pattern.get_ref<const std::string&>().empty()) return setting.is_string();
+    if (!pattern.is_object() || !setting.is_object()) return setting == pattern;
+    return setting.size() == pattern.size() && std::ranges::all_of(pattern.items(), [&](const auto& member) {
+               const auto found = setting.find(member.key());
+               return found != setting.end() && fits(*found, member.value());
+           });
+}
+
 bool holds(const Json& settings, const Json& members) {
     return std::ranges::all_of(members.items(), [&](const auto& member) {
         const auto found = settings.find(member.key());
-        return found == settings.end() ? member.value().is_null() : *found == member.value();
+        return found == settings.end() ? member.value().is_null() : fits(*found, member.value());
     });
 }
 

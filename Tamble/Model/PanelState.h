@@ -8,7 +8,8 @@
 /// How the settings of a tool stand in its panel.
 namespace tamble::PanelState {
 
-/// Whether picking the choice would change nothing.
+/// Whether picking the choice would change nothing. A choice with an empty text stands for every text: with
+/// the name "Goa trip" the choice of a name of one's own is chosen.
 bool isChosen(const PanelChoice& choice, const Json& settings);
 
 /// What stands in a text field: what the settings hold where its changes hold panelText; empty when the

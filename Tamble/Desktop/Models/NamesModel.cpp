@@ -98,6 +98,10 @@ QString NamesModel::summary() const {
 QString NamesModel::obstacle() const {
     if (names_.empty()) return {};
     const bool inPlace = tool_.isOpen() && tool_.session()->renameWay == RenameWay::inPlace;
+    const bool wantsNumbers = std::ranges::any_of(
+        names_, [](const PlannedName& name) { return name.problem && name.problem->code == "duplicate"; });
+    if (inPlace && wantsNumbers && tool_.session()->settings().value("numbering", "") == "none")
+        return tr("Add numbers to tell the files apart.");
     if (inPlace && problemCount_ > 0) return tr("%n name(s) can't be given yet.", nullptr, problemCount_);
     return changeCount_ == 0 ? tr("All names stay as they are so far.") : QString();
 }

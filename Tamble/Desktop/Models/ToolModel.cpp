@@ -100,6 +100,10 @@ QString ToolModel::editor() const {
     return isOpen() ? fromText(caseName(session_->definition().panel.editor)) : QString();
 }
 
+QString ToolModel::invitation() const {
+    return isOpen() ? texts::engine(session_->definition().panel.invitation) : QString();
+}
+
 QString ToolModel::summary() const {
     if (!isOpen() || session_->files().empty()) return subtitle();
     const auto& files = session_->files();

@@ -21,6 +21,7 @@ class ToolModel : public QObject {
     Q_PROPERTY(QString symbol READ symbol NOTIFY opened)
     Q_PROPERTY(QString category READ category NOTIFY opened)
     Q_PROPERTY(QString editor READ editor NOTIFY opened)
+    Q_PROPERTY(QString invitation READ invitation NOTIFY opened)
     Q_PROPERTY(bool ordersFiles READ ordersFiles NOTIFY opened)
     Q_PROPERTY(tamble::FileListModel* files READ files CONSTANT)
     Q_PROPERTY(tamble::PanelModel* panel READ panel CONSTANT)
@@ -55,6 +56,8 @@ class ToolModel : public QObject {
     QString symbol() const;
     QString category() const;
     QString editor() const;
+    /// Stands where files are dropped; empty for the usual one.
+    QString invitation() const;
     bool ordersFiles() const { return isOpen() && (session_->combines() || session_->renames()); }
     FileListModel* files() { return &files_; }
     PanelModel* panel() { return &panel_; }

@@ -21,7 +21,7 @@ Rectangle {
             expression: App.intake.isBusy ? "working" : "waiting"
             moving: Theme.moves
         }
-        Label { width: parent.width; kind: "heading"; text: App.tool.notice || qsTr("Drop files here"); horizontalAlignment: Text.AlignHCenter; wrapMode: Text.Wrap }
+        Label { width: parent.width; kind: "heading"; text: App.tool.notice || App.tool.invitation || qsTr("Drop files here"); horizontalAlignment: Text.AlignHCenter; wrapMode: Text.Wrap }
         Label { width: parent.width; quiet: true; text: App.tool.subtitle; horizontalAlignment: Text.AlignHCenter; wrapMode: Text.Wrap }
         Grid {
             anchors.horizontalCenter: parent.horizontalCenter

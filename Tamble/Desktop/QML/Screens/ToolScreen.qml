@@ -59,7 +59,7 @@ Item {
 
         anchors { right: parent.right; rightMargin: root.margin - 12; top: work.top; bottom: work.bottom }
         width: (root.tight ? 272 : 348) + 12
-        contentHeight: sections.height
+        contentHeight: sections.height + 12
 
         Column {
             id: sections

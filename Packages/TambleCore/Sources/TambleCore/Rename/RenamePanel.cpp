@@ -82,7 +82,8 @@ OptionsPanel renamePanel() {
          textField({}, "Between the number and the name", "separator"), letterCaseSection(),
          extensionToggle(), textField({}, "New extension", "newExtension")},
         PanelEditor::names,
-        {"Rename %n file(s)", "Renaming %n file(s)", "%n file(s) renamed"}};
+        {"Rename %n file(s)", "Renaming %n file(s)", "%n file(s) renamed"},
+        "Drop the files to rename here"};
 }
 
 RenameWayText textOf(RenameWay way) {

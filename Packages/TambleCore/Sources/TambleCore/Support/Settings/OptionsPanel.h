@@ -77,6 +77,8 @@ struct OptionsPanel {
     std::vector<PanelSection> sections;
     PanelEditor editor = PanelEditor::none;
     JobWords words = {};
+    /// Stands where files are dropped; empty for the usual invitation.
+    std::string invitation = {};
 };
 
 /// The change of one member: {"quality": "best"}.
