@@ -27,12 +27,18 @@ QString countsOf(const FolderSummary& folder) {
     return parts.join(QStringLiteral(", "));
 }
 
-/// "1 skipped, already in that format": each reason with how often it was met.
+/// A sentence as a part of another.
+QString withoutStop(QString sentence) {
+    if (sentence.endsWith(QLatin1Char('.'))) sentence.chop(1);
+    return sentence;
+}
+
+/// "1 skipped: Already in that format": each reason with how often it was met.
 QStringList skipTexts(const JobResult& result) {
     std::map<QString, int> reasons;
     for (const ItemResult& item : result.items) {
         if (const auto* skipped = std::get_if<outcome::Skipped>(&item.outcome))
-            ++reasons[texts::skipped(skipped->value)];
+            ++reasons[withoutStop(texts::skipped(skipped->value))];
     }
     QStringList lines;
     for (const auto& [reason, count] : reasons) {

@@ -66,6 +66,12 @@ QImage thumbnail(const QImage& picture, const Request& request) {
     return result;
 }
 
+QImage seeThroughPixel() {
+    QImage pixel(1, 1, QImage::Format_ARGB32_Premultiplied);
+    pixel.fill(Qt::transparent);
+    return pixel;
+}
+
 /// Is deleted by the toolkit once it has answered, also when its picture is no longer wanted.
 class Response final : public QQuickImageResponse {
   public:
@@ -76,7 +82,7 @@ class Response final : public QQuickImageResponse {
         pictures_->pool().start([this, stop = stop_.get_token()] {
             if (request_) {
                 const QImage picture = pictures_->picture(request_->wanted, stop);
-                image_ = request_->radius && !picture.isNull() ? thumbnail(picture, *request_) : picture;
+                if (!picture.isNull()) image_ = request_->radius ? thumbnail(picture, *request_) : picture;
             }
             emit finished();
         });
@@ -84,16 +90,14 @@ class Response final : public QQuickImageResponse {
     QQuickTextureFactory* textureFactory() const override {
         return QQuickTextureFactory::textureFactoryForImage(image_);
     }
-    QString errorString() const override {
-        return image_.isNull() ? QStringLiteral("no picture") : QString();
-    }
     void cancel() override { stop_.request_stop(); }
 
   private:
     std::shared_ptr<FilePictures> pictures_;
     std::optional<Request> request_;
     std::stop_source stop_;
-    QImage image_;
+    /// What cannot be shown is a see-through pixel: an error would be written to the terminal.
+    QImage image_ = seeThroughPixel();
 };
 
 }  // namespace

@@ -84,7 +84,11 @@ T.ApplicationWindow {
     }
     Connections {
         target: App.activity
-        function onUndone(id, report) { toast.say(report) }
+        function onUndone(id, report) {
+            // The screen of the job says so itself.
+            if (App.navigator.screen !== Navigator.Done)
+                toast.say(report)
+        }
         function onInterrupted(sentence, id) {
             toast.undoID = id
             interruption.sentences = interruption.sentences.concat([{ "text": sentence, "id": id }])

@@ -13,7 +13,7 @@ Item {
         anchors.fill: parent
         radius: root.radius
         color: Theme.sunken
-        visible: image.status !== Image.Ready
+        visible: !image.isThere
 
         Sign {
             anchors.centerIn: parent
@@ -24,12 +24,15 @@ Item {
     Image {
         id: image
 
+        // What cannot be shown comes as a single pixel.
+        readonly property bool isThere: status === Image.Ready && implicitWidth > 1
+
         anchors.fill: parent
         source: root.picture ? "image://file/thumb/" + Math.round(root.radius * Screen.devicePixelRatio) + "/" + root.picture : ""
         sourceSize: Qt.size(Math.round(root.width * Screen.devicePixelRatio), Math.round(root.height * Screen.devicePixelRatio))
         asynchronous: true
         cache: false
-        opacity: status === Image.Ready ? 1 : 0
+        opacity: isThere ? 1 : 0
 
         Behavior on opacity { NumberAnimation { duration: Theme.quick } }
     }

@@ -63,7 +63,7 @@ T.AbstractButton {
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
             kind: "caption"
             quiet: true
-            text: root.available ? root.files : notYet.text
+            text: !root.available ? notYet.text : root.large ? root.files : ""
             Accessible.ignored: true
         }
     }

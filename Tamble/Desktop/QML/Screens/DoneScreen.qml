@@ -82,7 +82,7 @@ Scroller {
 
         ResultList {
             width: parent.width
-            visible: model.count > 0
+            visible: model.count > 0 && !root.undone
             heading: qsTr("Couldn't be done")
             action: qsTr("Try these again")
             model: App.result.failures
@@ -90,13 +90,13 @@ Scroller {
         }
         ResultList {
             width: parent.width
-            visible: model.count > 0
+            visible: model.count > 0 && !root.undone
             heading: qsTr("Good to know")
             model: App.result.notes
         }
         ResultList {
             width: parent.width
-            visible: model.count > 0
+            visible: model.count > 0 && !root.undone
             heading: qsTr("Folders")
             folders: true
             model: App.result.folders
