@@ -107,11 +107,12 @@ T.ApplicationWindow {
         explanation: first ? first.text : ""
         yes: first && first.id ? qsTr("Put everything back") : qsTr("All right")
         no: first && first.id ? qsTr("Leave it as it is") : qsTr("Show activity")
-        onSentencesChanged: if (first && !opened) open()
+        onSentencesChanged: if (sentences.length > 0 && !opened) open()
         onAgreed: { if (first.id) App.activity.undo(first.id); next() }
         onRefused: { if (!first.id) App.navigator.open(Navigator.Activity); next() }
 
-        function next() { sentences = sentences.slice(1) }
+        // The next one is asked about once this one is closed.
+        function next() { Qt.callLater(() => sentences = sentences.slice(1)) }
     }
 
     Shortcut { sequences: ["Ctrl+K", "Ctrl+Alt+Z"]; enabled: !App.job.isRunning; onActivated: search.open() }

@@ -63,10 +63,11 @@ QString interrupted(const RecoveredJob& job) {
         return Undo::tr("Renaming “%1” was interrupted when %n file(s) had their new names.", nullptr,
                         count(undo.renamedItems))
             .arg(subject);
-    const QString saved = Undo::tr("%n new file(s) were saved", nullptr, job.entry.doneCount);
-    const QString binned = Undo::tr("%n original(s) are in the Bin", nullptr, count(undo.trashedItems));
-    return Undo::tr("A job over “%1” was interrupted while it saved: %2, %3. You can put everything back.")
-        .arg(subject, saved, binned);
+    QString text = Undo::tr("A job over “%1” was interrupted while it saved.").arg(subject);
+    text += QLatin1Char(' ') + Undo::tr("%n new file(s) were saved.", nullptr, job.entry.doneCount);
+    if (!undo.trashedItems.empty())
+        text += QLatin1Char(' ') + Undo::tr("%n original(s) are in the Bin.", nullptr, count(undo.trashedItems));
+    return text + QLatin1Char(' ') + Undo::tr("You can put everything back.");
 }
 
 }  // namespace tamble::texts

@@ -18,6 +18,8 @@ T.RadioButton {
     hoverEnabled: true
     Accessible.name: text
     Accessible.description: description
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     indicator: Rectangle {
         x: root.mirrored ? root.width - width - 12 : 12

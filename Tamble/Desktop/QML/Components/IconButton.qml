@@ -17,6 +17,8 @@ T.Button {
     hoverEnabled: true
     Accessible.name: text
     Accessible.role: Accessible.Button
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     contentItem: Item {
         Sign {

@@ -22,6 +22,8 @@ T.Button {
     font { family: Theme.family; pixelSize: big ? Theme.strongSize : Theme.bodySize; weight: Font.DemiBold }
     Accessible.name: text
     Accessible.role: Accessible.Button
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     contentItem: Item {
         implicitWidth: (root.sign ? 18 + Theme.space2 : 0) + label.implicitWidth

@@ -29,6 +29,8 @@ Item {
         Accessible.name: text
         Accessible.role: Accessible.Button
         Accessible.selected: current
+        Keys.onReturnPressed: clicked()
+        Keys.onEnterPressed: clicked()
 
         contentItem: Item {
             Sign {
@@ -114,6 +116,8 @@ Item {
             Accessible.name: text
             Accessible.role: Accessible.Button
             onClicked: root.searchRequested()
+            Keys.onReturnPressed: clicked()
+            Keys.onEnterPressed: clicked()
 
             contentItem: Item {
                 Sign {

@@ -11,6 +11,8 @@ T.AbstractButton {
     hoverEnabled: true
     Accessible.name: text
     Accessible.role: Accessible.Link
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     contentItem: Label {
         id: label

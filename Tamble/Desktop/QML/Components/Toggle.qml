@@ -13,6 +13,8 @@ T.Switch {
     hoverEnabled: true
     Accessible.name: text
     Accessible.description: description
+    Keys.onReturnPressed: { toggle(); toggled() }
+    Keys.onEnterPressed: { toggle(); toggled() }
 
     indicator: Rectangle {
         x: root.mirrored ? 0 : root.width - width

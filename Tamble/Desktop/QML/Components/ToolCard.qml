@@ -23,6 +23,8 @@ T.AbstractButton {
     Accessible.name: files ? title + ", " + files : title
     Accessible.description: available ? subtitle : notYet.text
     Accessible.role: Accessible.Button
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
     onClicked: App.openTool(toolID)
 
     contentItem: Item {
