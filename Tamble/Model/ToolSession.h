@@ -23,6 +23,8 @@ class ToolSession {
     bool combines() const { return shape_ == Shape::combiner; }
     bool renames() const { return shape_ == Shape::renamer; }
     bool canReplaceOriginals() const { return canReplace_; }
+    /// Whether the order of the files matters: for the one output, or for the numbers in names.
+    bool ordersFiles() const { return combines() || renames(); }
 
     /// Takes those of the files that the tool works with and that are not there yet; answers how many.
     std::size_t add(std::span<const InputFile> found);

@@ -6,9 +6,16 @@
 #include <TambleCore/Support/FileURL.h>
 
 namespace tamble {
+namespace {
+
+/// Between a folder and the one in it.
+const auto between = QStringLiteral(" › ");
+
+}  // namespace
 
 void FileListModel::show(ToolSession* session) {
     session_ = session;
+    showsTree_ = true;
     refresh();
 }
 
@@ -36,13 +43,16 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
             return pictureSource(file);
         case kind:
             return kindSymbol(file);
+        case branch:
+            return branchOf(file);
         default:
             return {};
     }
 }
 
 QHash<int, QByteArray> FileListModel::roleNames() const {
-    return {{name, "name"}, {folder, "folder"}, {size, "size"}, {picture, "picture"}, {kind, "kind"}};
+    return {{name, "name"},       {folder, "folder"}, {size, "size"},
+            {picture, "picture"}, {kind, "kind"},     {branch, "branch"}};
 }
 
 void FileListModel::remove(const QList<int>& rows) {
@@ -51,6 +61,10 @@ void FileListModel::remove(const QList<int>& rows) {
     for (const int row : rows) {
         if (row >= 0 && row < count()) indexes.push_back(static_cast<std::size_t>(row));
     }
+    removeRows(indexes);
+}
+
+void FileListModel::removeRows(const std::vector<std::size_t>& indexes) {
     if (indexes.empty()) return;
     if (indexes.size() == 1) {
         // The rest stays where it is on the screen.
@@ -78,8 +92,34 @@ void FileListModel::move(int from, int to) {
 void FileListModel::sort(Order order) {
     if (session_ == nullptr) return;
     session_->sort(static_cast<FileOrder>(order));
+    showsTree_ = order == AsDropped;
     refresh();
     emit changed();
+}
+
+QString FileListModel::branchOf(const InputFile& file) const {
+    if (!showsTree_ || !session_->hasFolders() || session_->ordersFiles()) return {};
+    if (file.isLoose) return tr("Single files");
+    const QString below = texts::name(file.relativeFolder).replace(QLatin1Char('/'), between);
+    const QString root = texts::name(file.root.filename());
+    return below.isEmpty() ? root : root + between + below;
+}
+
+std::vector<std::size_t> FileListModel::rowsBelow(const QString& wanted) const {
+    std::vector<std::size_t> rows;
+    for (std::size_t i = 0; session_ != nullptr && i < session_->files().size(); ++i) {
+        const QString at = branchOf(session_->files()[i]);
+        if (at == wanted || at.startsWith(wanted + between)) rows.push_back(i);
+    }
+    return rows;
+}
+
+int FileListModel::filesBelow(const QString& wanted) const {
+    return static_cast<int>(rowsBelow(wanted).size());
+}
+
+void FileListModel::removeBranch(const QString& wanted) {
+    removeRows(rowsBelow(wanted));
 }
 
 QString pictureSource(const InputFile& file) {

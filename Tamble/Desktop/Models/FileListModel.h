@@ -15,7 +15,7 @@ class FileListModel : public QAbstractListModel {
     Q_PROPERTY(int count READ count NOTIFY countChanged)
 
   public:
-    enum Role { name = Qt::UserRole, folder, size, picture, kind };
+    enum Role { name = Qt::UserRole, folder, size, picture, kind, branch };
     enum Order { AsDropped, ByName, BySize, ByKind };
     Q_ENUM(Order)
 
@@ -31,6 +31,10 @@ class FileListModel : public QAbstractListModel {
     QHash<int, QByteArray> roleNames() const override;
 
     Q_INVOKABLE void remove(const QList<int>& rows);
+    /// Of a folder in the tree of what was dropped, "Goa trip › Beach": how many files are in it, those of
+    /// its subfolders included.
+    Q_INVOKABLE int filesBelow(const QString& branch) const;
+    Q_INVOKABLE void removeBranch(const QString& branch);
     Q_INVOKABLE void move(int from, int to);
     Q_INVOKABLE void sort(tamble::FileListModel::Order order);
 
@@ -40,7 +44,14 @@ class FileListModel : public QAbstractListModel {
     void changed();
 
   private:
+    QString branchOf(const InputFile& file) const;
+    /// The rows of a folder and of those below it.
+    std::vector<std::size_t> rowsBelow(const QString& branch) const;
+    void removeRows(const std::vector<std::size_t>& rows);
+
     ToolSession* session_ = nullptr;
+    /// Other orders tear folders apart.
+    bool showsTree_ = true;
 };
 
 /// What the picture of a file is called behind "image://file/"; empty for kinds of which there is none.

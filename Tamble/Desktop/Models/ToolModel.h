@@ -58,7 +58,7 @@ class ToolModel : public QObject {
     QString editor() const;
     /// Stands where files are dropped; empty for the usual one.
     QString invitation() const;
-    bool ordersFiles() const { return isOpen() && (session_->combines() || session_->renames()); }
+    bool ordersFiles() const { return isOpen() && session_->ordersFiles(); }
     FileListModel* files() { return &files_; }
     PanelModel* panel() { return &panel_; }
     SaveModel* save() { return &save_; }

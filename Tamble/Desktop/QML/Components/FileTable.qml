@@ -98,6 +98,37 @@ Surface {
             }
         }
 
+        section.property: "branch"
+        section.delegate: Item {
+            id: branch
+
+            required property string section
+
+            width: list.width
+            height: section ? 40 : 0
+            visible: section
+
+            Sign { id: mark; x: LayoutMirroring.enabled ? parent.width - width - 16 : 16; anchors.verticalCenter: parent.verticalCenter; name: "ui.folder"; size: 18 }
+            Label {
+                anchors { left: mark.right; leftMargin: 10; right: total.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
+                kind: "caption"
+                text: branch.section
+                elide: Text.ElideMiddle
+            }
+            Label { id: total; anchors { right: drop.left; rightMargin: 6; verticalCenter: parent.verticalCenter } kind: "caption"; quiet: true; text: branch.section ? root.files.filesBelow(branch.section) : "" }
+            IconButton {
+                id: drop
+
+                anchors { right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
+                implicitWidth: 28
+                implicitHeight: 28
+                sign: "ui.close"
+                signSize: 14
+                text: qsTr("Remove the folder from the list")
+                onClicked: { root.selected = {}; root.files.removeBranch(branch.section) }
+            }
+        }
+
         delegate: Item {
             id: row
 

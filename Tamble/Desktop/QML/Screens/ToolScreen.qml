@@ -10,7 +10,8 @@ Item {
     readonly property bool tight: width < 760
     readonly property bool hasFiles: App.tool.files.count > 0
     // An editor shows pages of one document; for several, the pages are typed.
-    readonly property bool edits: hasFiles && App.tool.editor !== "none"
+    property bool lists: false // all files in place of the editor
+    readonly property bool edits: hasFiles && !lists && App.tool.editor !== "none"
                                   && (!(App.tool.editor.startsWith("page") || App.tool.editor === "signature") || App.tool.files.count === 1)
 
     Header {
@@ -24,6 +25,13 @@ Item {
         symbol: App.tool.symbol
         category: App.tool.category
 
+        Segments {
+            visible: root.hasFiles && App.tool.editor === "comparison"
+            stretch: false
+            options: [{ "label": qsTr("Preview") }, { "label": qsTr("Files") }]
+            current: root.lists ? 1 : 0
+            onPicked: index => root.lists = index === 1
+        }
         AddButton { visible: root.hasFiles }
     }
 

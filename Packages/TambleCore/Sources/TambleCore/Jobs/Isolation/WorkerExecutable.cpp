@@ -14,7 +14,9 @@ std::filesystem::path folderOfThisLibrary() {
     Dl_info info{};
     if (::dladdr(reinterpret_cast<const void*>(&workerExecutable), &info) == 0 || info.dli_fname == nullptr)
         return {};
-    return std::filesystem::absolute(info.dli_fname).parent_path();
+    // /lib may be a link to /usr/lib.
+    std::error_code none;
+    return std::filesystem::canonical(info.dli_fname, none).parent_path();
 }
 
 }  // namespace
