@@ -18,8 +18,9 @@ double distance(double x, double y, double side, double inset, double radius) {
 }  // namespace
 
 QImage ShadowProvider::requestImage(const QString& id, QSize* size, const QSize&) {
-    const double radius = id.section(QLatin1Char('/'), 0, 0).toDouble();
-    const double blur = id.section(QLatin1Char('/'), 1, 1).toDouble();
+    const double scale = std::max(1.0, id.section(QLatin1Char('/'), 3, 3).toDouble());
+    const double radius = scale * id.section(QLatin1Char('/'), 0, 0).toDouble();
+    const double blur = scale * id.section(QLatin1Char('/'), 1, 1).toDouble();
     const QString code = id.section(QLatin1Char('/'), 2, 2);
     QColor color(QLatin1Char('#') + code.left(6));
     const int strongest = code.mid(6, 2).toInt(nullptr, 16);

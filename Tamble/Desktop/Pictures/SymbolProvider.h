@@ -12,7 +12,7 @@ class SymbolProvider final : public QQuickImageProvider {
 };
 
 /// The soft shadow of a rounded rectangle, to be stretched between its corners:
-/// "image://shadow/RADIUS/BLUR/RRGGBBAA" in pixels.
+/// "image://shadow/RADIUS/BLUR/RRGGBBAA/SCALE", lengths in pixels before scaling.
 class ShadowProvider final : public QQuickImageProvider {
   public:
     ShadowProvider() : QQuickImageProvider(Image) {}

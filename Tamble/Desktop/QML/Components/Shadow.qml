@@ -19,7 +19,7 @@ Item {
         width: parent.width + 2 * blur
         height: parent.height + 2 * blur
         border { left: radius + 2 * blur; right: radius + 2 * blur; top: radius + 2 * blur; bottom: radius + 2 * blur }
-        source: "image://shadow/" + radius + "/" + blur + "/" + ink
+        source: "image://shadow/" + radius + "/" + blur + "/" + ink + "/" + Screen.devicePixelRatio
     }
 
     Soft {
