@@ -27,7 +27,7 @@ std::vector<ActivityModel::Row> ActivityModel::readRows() {
         rows.push_back({.id = entry.id,
                         .date = entry.date,
                         .toolID = entry.toolID,
-                        .subject = texts::name(entry.subject),
+                        .subject = texts::subject(entry.subject),
                         .done = entry.doneCount,
                         .skipped = entry.skippedCount,
                         .failed = entry.failedCount,

@@ -83,9 +83,10 @@ void IntakeModel::take(ScanResult scan) {
         scan_.*count += scan.*count;
     describe();
     if (scan_.files.empty()) {
-        const auto notes = scanNotes(scan);
-        emit nothingFound(texts::engine(notes.empty() ? "The folder you chose is empty or couldn't be read."
-                                                      : notes.front()));
+        const QStringList notes = texts::notes(scan);
+        emit nothingFound(notes.isEmpty()
+                              ? texts::engine("The folder you chose is empty or couldn't be read.")
+                              : notes.front());
     } else {
         emit found(added);
     }
@@ -120,8 +121,7 @@ void IntakeModel::describe() {
         places << tr("%n single file(s)", nullptr, scan_.looseFileCount);
     subtitle_ = places.isEmpty() ? texts::size(bytes)
                                  : tr("%1 in %2").arg(texts::size(bytes), places.join(tr(" and ")));
-    notes_.clear();
-    for (const auto& note : scanNotes(scan_)) notes_ << texts::engine(note);
+    notes_ = texts::notes(scan_);
 
     std::vector<ToolListModel::Entry> best, others;
     for (const auto& [tool, fileCount] : fittingTools(scan_.files)) {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <TambleCore/Intake/KindCounts.h>
+#include <TambleCore/Intake/ScanResult.h>
 #include <TambleCore/Jobs/SkipReason.h>
 #include <TambleCore/Support/FilePath.h>
 #include <TambleCore/Support/ItemNote.h>
 
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 #include <filesystem>
 #include <optional>
@@ -35,7 +37,12 @@ QString name(const std::filesystem::path& path);
 /// The home folder as "~".
 QString place(const std::filesystem::path& path);
 
+/// What an activity entry says it is about: "beach.jpg and 11 others".
+QString subject(std::string_view stored);
+
 QString skipped(const SkipReason& reason);
+/// What a drop left out.
+QStringList notes(const ScanResult& scan);
 QString note(ItemNote note);
 
 }  // namespace tamble::texts

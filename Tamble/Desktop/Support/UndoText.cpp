@@ -45,25 +45,25 @@ QString undone(const UndoReport& report, const UndoRecord& record) {
 }
 
 QString interrupted(const RecoveredJob& job) {
-    const QString subject = name(job.entry.subject);
+    const QString about = subject(job.entry.subject);
     const UndoRecord& undo = job.entry.undo;
     switch (job.outcome) {
         case RecoveredJob::Outcome::namesPutBack:
-            return Undo::tr("Renaming “%1” was interrupted. All files have their old names.").arg(subject);
+            return Undo::tr("Renaming “%1” was interrupted. All files have their old names.").arg(about);
         case RecoveredJob::Outcome::namesNotBack:
             return Undo::tr(
                        "Renaming “%1” was interrupted, and %n file(s) couldn't get their old names back. The "
                        "next start tries it again.",
                        nullptr, count(job.stranded))
-                .arg(subject);
+                .arg(about);
         case RecoveredJob::Outcome::logged:
             break;
     }
     if (isOfRenames(undo))
         return Undo::tr("Renaming “%1” was interrupted when %n file(s) had their new names.", nullptr,
                         count(undo.renamedItems))
-            .arg(subject);
-    QString text = Undo::tr("A job over “%1” was interrupted while it saved.").arg(subject);
+            .arg(about);
+    QString text = Undo::tr("A job over “%1” was interrupted while it saved.").arg(about);
     text += QLatin1Char(' ') + Undo::tr("%n new file(s) were saved.", nullptr, job.entry.doneCount);
     if (!undo.trashedItems.empty())
         text += QLatin1Char(' ') + Undo::tr("%n original(s) are in the Bin.", nullptr, count(undo.trashedItems));
