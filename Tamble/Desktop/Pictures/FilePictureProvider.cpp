@@ -73,12 +73,9 @@ class Response final : public QQuickImageResponse {
         : pictures_(std::move(pictures)), request_(std::move(request)) {}
 
     void begin() {
+        if (request_ && request_->wanted.kind == FilePictures::Wanted::Kind::page) return beginPage();
         pictures_->pool().start([this, stop = stop_.get_token()] {
-            if (request_) {
-                const QImage picture = pictures_->picture(request_->wanted, stop);
-                image_ = request_->radius && !picture.isNull() ? thumbnail(picture, *request_) : picture;
-            }
-            emit finished();
+            finish(request_ ? pictures_->picture(request_->wanted, stop) : QImage());
         });
     }
     QQuickTextureFactory* textureFactory() const override {
@@ -87,12 +84,29 @@ class Response final : public QQuickImageResponse {
     QString errorString() const override {
         return image_.isNull() ? QStringLiteral("no picture") : QString();
     }
-    void cancel() override { stop_.request_stop(); }
+    void cancel() override {
+        stop_.request_stop();
+        // Later: whoever cancels holds a lock that the answer takes.
+        if (number_ && pictures_->pages().cancel(*number_))
+            QMetaObject::invokeMethod(this, &QQuickImageResponse::finished, Qt::QueuedConnection);
+    }
 
   private:
+    void beginPage() {
+        const FilePictures::Wanted& wanted = request_->wanted;
+        if (const QImage kept = pictures_->kept(wanted); !kept.isNull()) return finish(kept);
+        number_ = pictures_->pages().want({wanted.file, wanted.page, wanted.pixels},
+                                          [this](const QImage& picture) { finish(picture); });
+    }
+    void finish(const QImage& picture) {
+        image_ = request_ && request_->radius && !picture.isNull() ? thumbnail(picture, *request_) : picture;
+        emit finished();
+    }
+
     std::shared_ptr<FilePictures> pictures_;
     std::optional<Request> request_;
     std::stop_source stop_;
+    std::optional<std::uint64_t> number_;
     QImage image_;
 };
 

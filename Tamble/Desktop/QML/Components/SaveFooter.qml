@@ -90,7 +90,7 @@ Rectangle {
                     width: Math.min(implicitWidth, 240)
                     visible: text
                     color: Theme.warn
-                    text: App.tool.missing || (App.tool.editor === "names" && App.names.problemCount > 0 && !root.save.renamesCopies ? App.names.summary : "")
+                    text: App.pages.missing || App.tool.missing || (App.tool.editor === "names" && App.names.problemCount > 0 && !root.save.renamesCopies ? App.names.summary : "")
                     wrapMode: Text.Wrap
                     horizontalAlignment: Text.AlignRight
                 }
