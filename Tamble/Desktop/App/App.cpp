@@ -20,6 +20,8 @@ App::App(QObject* parent)
       tool_(preferences_, workers_),
       comparison_(tool_, pictures_),
       names_(tool_),
+      document_(tool_, pictures_),
+      pages_(tool_, document_),
       job_(workers_),
       preferencesModel_(preferences_) {
     instance_ = this;

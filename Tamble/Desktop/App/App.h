@@ -3,10 +3,12 @@
 #include <Tamble/Desktop/App/SystemLook.h>
 #include <Tamble/Desktop/Models/ActivityModel.h>
 #include <Tamble/Desktop/Models/ComparisonModel.h>
+#include <Tamble/Desktop/Models/DocumentModel.h>
 #include <Tamble/Desktop/Models/IntakeModel.h>
 #include <Tamble/Desktop/Models/JobModel.h>
 #include <Tamble/Desktop/Models/NamesModel.h>
 #include <Tamble/Desktop/Models/Navigator.h>
+#include <Tamble/Desktop/Models/PagesModel.h>
 #include <Tamble/Desktop/Models/PreferencesModel.h>
 #include <Tamble/Desktop/Models/ResultModel.h>
 #include <Tamble/Desktop/Models/SearchModel.h>
@@ -28,6 +30,8 @@ class App : public QObject {
     Q_PROPERTY(tamble::ToolModel* tool READ tool CONSTANT)
     Q_PROPERTY(tamble::ComparisonModel* comparison READ comparison CONSTANT)
     Q_PROPERTY(tamble::NamesModel* names READ names CONSTANT)
+    Q_PROPERTY(tamble::DocumentModel* document READ document CONSTANT)
+    Q_PROPERTY(tamble::PagesModel* pages READ pages CONSTANT)
     Q_PROPERTY(tamble::JobModel* job READ job CONSTANT)
     Q_PROPERTY(tamble::ResultModel* result READ result CONSTANT)
     Q_PROPERTY(tamble::ActivityModel* activity READ activity CONSTANT)
@@ -57,6 +61,8 @@ class App : public QObject {
     ToolModel* tool() { return &tool_; }
     ComparisonModel* comparison() { return &comparison_; }
     NamesModel* names() { return &names_; }
+    DocumentModel* document() { return &document_; }
+    PagesModel* pages() { return &pages_; }
     JobModel* job() { return &job_; }
     ResultModel* result() { return &result_; }
     ActivityModel* activity() { return &activity_; }
@@ -109,6 +115,8 @@ class App : public QObject {
     ToolModel tool_;
     ComparisonModel comparison_;
     NamesModel names_;
+    DocumentModel document_;
+    PagesModel pages_;
     JobModel job_;
     ResultModel result_;
     ActivityModel activity_;

@@ -79,23 +79,44 @@ class Response final : public QQuickImageResponse {
         : pictures_(std::move(pictures)), request_(std::move(request)) {}
 
     void begin() {
+        if (request_ && request_->wanted.kind == FilePictures::Wanted::Kind::page) return beginPage();
         pictures_->pool().start([this, stop = stop_.get_token()] {
-            if (request_) {
-                const QImage picture = pictures_->picture(request_->wanted, stop);
-                if (!picture.isNull()) image_ = request_->radius ? thumbnail(picture, *request_) : picture;
-            }
-            emit finished();
+            finish(request_ ? pictures_->picture(request_->wanted, stop) : QImage());
         });
     }
     QQuickTextureFactory* textureFactory() const override {
         return QQuickTextureFactory::textureFactoryForImage(image_);
     }
-    void cancel() override { stop_.request_stop(); }
+    void cancel() override {
+        stop_.request_stop();
+        // Later: whoever cancels holds a lock that the answer takes.
+        if (number_ && pictures_->pages().cancel(*number_)) finishSoon();
+    }
 
   private:
+    void beginPage() {
+        const FilePictures::Wanted& wanted = request_->wanted;
+        if (const QImage kept = pictures_->kept(wanted); !kept.isNull()) {
+            hold(kept);
+            return finishSoon();
+        }
+        number_ = pictures_->pages().want({wanted.file, wanted.page, wanted.pixels},
+                                          [this](const QImage& picture) { finish(picture); });
+    }
+    void hold(const QImage& picture) {
+        if (!picture.isNull()) image_ = request_->radius ? thumbnail(picture, *request_) : picture;
+    }
+    void finish(const QImage& picture) {
+        hold(picture);
+        emit finished();
+    }
+    /// Not before whoever asked listens.
+    void finishSoon() { QMetaObject::invokeMethod(this, &QQuickImageResponse::finished, Qt::QueuedConnection); }
+
     std::shared_ptr<FilePictures> pictures_;
     std::optional<Request> request_;
     std::stop_source stop_;
+    std::optional<std::uint64_t> number_;
     /// What cannot be shown is a see-through pixel: an error would be written to the terminal.
     QImage image_ = seeThroughPixel();
 };

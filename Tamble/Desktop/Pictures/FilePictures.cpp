@@ -21,7 +21,11 @@ QByteArray keyOf(const FilePictures::Wanted& wanted) {
 }  // namespace
 
 FilePictures::FilePictures(std::shared_ptr<WorkerPool> workers)
-    : previewer_(std::move(workers)), kept_(keptKibibytes) {
+    : previewer_(std::move(workers)),
+      kept_(keptKibibytes),
+      pages_([this](const PageQueue::Page& first, int count, const auto& take, std::stop_token stop) {
+          draw(first, count, take, stop);
+      }) {
     pool_.setMaxThreadCount(atOnce);
 }
 
@@ -30,27 +34,55 @@ FilePictures::~FilePictures() {
     pool_.waitForDone();
 }
 
+QImage FilePictures::kept(const Wanted& wanted) {
+    const QByteArray key = keyOf(wanted);
+    const QMutexLocker lock(&mutex_);
+    const QImage* kept = kept_.object(key);
+    return kept == nullptr ? QImage() : *kept;
+}
+
+void FilePictures::keep(const QByteArray& key, const QImage& image) {
+    const QMutexLocker lock(&mutex_);
+    kept_.insert(key, std::make_unique<QImage>(image).release(),
+                 std::max(1, static_cast<int>(image.sizeInBytes() >> 10)));
+}
+
+Secrets FilePictures::secrets() {
+    const QMutexLocker lock(&mutex_);
+    return secrets_;
+}
+
 QImage FilePictures::picture(const Wanted& wanted, std::stop_token stop) {
     if (stop.stop_requested()) return {};
+    if (const QImage image = kept(wanted); !image.isNull()) return image;
     const QByteArray key = keyOf(wanted);
-    Secrets secrets;
-    {
-        const QMutexLocker lock(&mutex_);
-        if (const QImage* kept = kept_.object(key)) return *kept;
-        secrets = secrets_;
-    }
     try {
         const InputFile file{.url = FilePath(wanted.file), .root = FilePath(wanted.file.parent_path())};
         QImage image = imageOf(wanted.kind == Wanted::Kind::photo
                                    ? previewer_.photo(file, wanted.pixels, stop)
-                                   : previewer_.page(file, wanted.page, wanted.pixels, secrets, stop));
-        const QMutexLocker lock(&mutex_);
-        kept_.insert(key, std::make_unique<QImage>(image).release(),
-                     std::max(1, static_cast<int>(image.sizeInBytes() >> 10)));
+                                   : previewer_.page(file, wanted.page, wanted.pixels, secrets(), stop));
+        keep(key, image);
         return image;
     } catch (const std::exception&) {
         return {};
     }
+}
+
+void FilePictures::draw(const PageQueue::Page& first, int count,
+                        const std::function<void(int number, const QImage& picture)>& take,
+                        std::stop_token stop) {
+    const auto key = [&first](int page) {
+        return keyOf({.kind = Wanted::Kind::page, .file = first.file, .page = page, .pixels = first.pixels});
+    };
+    const InputFile file{.url = FilePath(first.file), .root = FilePath(first.file.parent_path())};
+    previewer_.drawPages(
+        file, first.number, count, first.pixels, secrets(),
+        [&](int page, const PreviewPicture& picture) {
+            const QImage image = imageOf(picture);
+            keep(key(page), image);
+            take(page, image);
+        },
+        stop);
 }
 
 void FilePictures::setPassword(const std::string& password) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Tamble/Desktop/Pictures/PageQueue.h>
+
 #include <TambleCore/Previews/Previewer.h>
 
 #include <QCache>
@@ -30,6 +32,11 @@ class FilePictures {
     /// Empty after a stop request, and for what cannot be shown.
     QImage picture(const Wanted& wanted, std::stop_token stop);
 
+    /// What was made of it before and is still there.
+    QImage kept(const Wanted& wanted);
+    /// Keeps what it draws.
+    PageQueue& pages() { return pages_; }
+
     /// Opens locked PDFs.
     void setPassword(const std::string& password);
     /// Lets go of all pictures.
@@ -39,12 +46,18 @@ class FilePictures {
     QThreadPool& pool() { return pool_; }
 
   private:
+    void keep(const QByteArray& key, const QImage& image);
+    Secrets secrets();
+    void draw(const PageQueue::Page& first, int count,
+              const std::function<void(int number, const QImage& picture)>& take, std::stop_token stop);
+
     Previewer previewer_;
     QMutex mutex_;
     Secrets secrets_;
     /// By what is wanted and the file's state, in kibibytes.
     QCache<QByteArray, QImage> kept_;
     QThreadPool pool_;
+    PageQueue pages_;
 };
 
 /// Plain samples as a picture that can be drawn.

@@ -92,7 +92,7 @@ Rectangle {
                     width: Math.min(implicitWidth, 240)
                     visible: text
                     color: Theme.warn
-                    text: App.tool.missing || root.namesProblem
+                    text: App.pages.missing || App.tool.missing || root.namesProblem
                     wrapMode: Text.Wrap
                     horizontalAlignment: Text.AlignRight
                 }

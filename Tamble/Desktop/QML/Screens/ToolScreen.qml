@@ -9,10 +9,10 @@ Item {
 
     readonly property bool tight: width < 760
     readonly property bool hasFiles: App.tool.files.count > 0
+    readonly property bool ofPages: App.tool.editor.startsWith("page")
     // An editor shows pages of one document; for several, the pages are typed.
     property bool lists: false // all files in place of the editor
-    readonly property bool edits: hasFiles && !lists && App.tool.editor !== "none"
-                                  && (!(App.tool.editor.startsWith("page") || App.tool.editor === "signature") || App.tool.files.count === 1)
+    readonly property bool edits: hasFiles && !lists && App.tool.editor !== "none" && (!ofPages || App.tool.files.count === 1)
 
     Header {
         id: header
@@ -56,7 +56,7 @@ Item {
             id: files
 
             anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-            visible: root.hasFiles && App.tool.editor !== "names"
+            visible: root.hasFiles && App.tool.editor !== "names" && !(root.edits && root.ofPages)
             height: !visible ? 0 : editor.active ? 62 : parent.height
             grid: !editor.active
         }
@@ -75,6 +75,12 @@ Item {
             width: options.width - 12
             spacing: Theme.space4
 
+            Loader {
+                width: parent.width
+                active: root.edits && root.ofPages
+                visible: active
+                source: "PageTools.qml"
+            }
             Repeater {
                 model: App.tool.panel
 
@@ -82,7 +88,7 @@ Item {
                     width: sections.width
                     category: App.tool.category
                     panel: App.tool.panel
-                    visible: !(root.edits && App.tool.editor.startsWith("page") && control === "text")
+                    visible: !(root.edits && root.ofPages && control === "text")
                 }
             }
         }
