@@ -83,7 +83,9 @@ void ResultModel::describe(const JobResult& result, const ToolInfo& tool) {
         title_ = totals.failed > 0 ? tr("That didn't work") : tr("Nothing to do");
     } else {
         title_ = texts::finished(tool.id, totals.done);
-        const bool changesSize = totals.bytesAfter > 0 && totals.bytesAfter != totals.bytesBefore;
+        // Turning or renaming changes a few bytes that nobody asked about.
+        const auto changed = std::abs(totals.bytesAfter - totals.bytesBefore);
+        const bool changesSize = totals.bytesAfter > 0 && changed * 50 > totals.bytesBefore;
         if (changesSize)
             parts << tr("%1 → %2, %3")
                          .arg(texts::size(totals.bytesBefore), texts::size(totals.bytesAfter),

@@ -1,17 +1,12 @@
 #include <Tamble/Desktop/Models/ToolListModel.h>
 #include <Tamble/Desktop/Models/ToolModel.h>
-#include <Tamble/Desktop/Support/Background.h>
 #include <Tamble/Desktop/Support/StartText.h>
 #include <Tamble/Desktop/Support/Texts.h>
-#include <Tamble/Model/ProtectedWork.h>
 
 #include <TambleCore/Support/Json/Described.h>
 
 namespace tamble {
 namespace {
-
-/// Typing and dragging change things faster than it is worth estimating.
-constexpr int pauseBeforeEstimate = 250;
 
 QString fromText(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -20,22 +15,13 @@ QString fromText(std::string_view text) {
 }  // namespace
 
 ToolModel::ToolModel(PreferencesStore& preferences, std::shared_ptr<WorkerPool> workers, QObject* parent)
-    : QObject(parent), workers_(std::move(workers)), save_(preferences) {
-    pool_.setMaxThreadCount(2);
-    pause_.setSingleShot(true);
-    pause_.setInterval(pauseBeforeEstimate);
-    connect(&pause_, &QTimer::timeout, this, &ToolModel::beginEstimate);
+    : QObject(parent), save_(preferences), forecast_(std::move(workers)) {
     connect(&files_, &FileListModel::changed, this, &ToolModel::filesChanged);
     connect(&panel_, &PanelModel::changed, this, &ToolModel::settingsChanged);
     connect(&save_, &SaveModel::changed, this, [this] {
         emit changed();
-        beginExample();
+        forecast_.updateExample(session_.get());
     });
-}
-
-ToolModel::~ToolModel() {
-    estimating_.request_stop();
-    pool_.waitForDone();
 }
 
 void ToolModel::open(const ToolInfo& tool, std::span<const InputFile> files) {
@@ -61,7 +47,7 @@ void ToolModel::add(std::span<const InputFile> files) {
 }
 
 void ToolModel::close() {
-    estimating_.request_stop();
+    forecast_.update(nullptr);
     files_.show(nullptr);
     panel_.show(nullptr);
     save_.show(nullptr);
@@ -124,19 +110,6 @@ bool ToolModel::canStart() const {
     return isOpen() && !session_->files().empty() && session_->missing().empty();
 }
 
-QString ToolModel::estimate() const {
-    if (!isOpen() || session_->files().empty()) return {};
-    const QString before = texts::size(session_->inputBytes());
-    if (isEstimating_) return tr("%1 → estimating…").arg(before);
-    return estimatedBytes_ ? tr("%1 → about %2").arg(before, texts::size(*estimatedBytes_)) : QString();
-}
-
-QString ToolModel::estimatedChange() const {
-    return estimatedBytes_ && !isEstimating_ && isOpen()
-               ? texts::change(session_->inputBytes(), *estimatedBytes_)
-               : QString();
-}
-
 void ToolModel::change(const Json& changes) {
     if (!isOpen()) return;
     session_->change(changes);
@@ -153,50 +126,7 @@ void ToolModel::filesChanged() {
 void ToolModel::settingsChanged() {
     emit changed();
     emit inputsChanged();
-    estimating_.request_stop();
-    estimatedBytes_.reset();
-    isEstimating_ = isOpen() && session_->definition().estimate && !session_->files().empty();
-    emit estimateChanged();
-    if (isEstimating_) pause_.start();
-    beginExample();
-}
-
-void ToolModel::beginEstimate() {
-    if (!isOpen() || session_->files().empty()) return;
-    estimating_ = std::stop_source();
-    inBackground(
-        pool_, this,
-        [tool = &session_->definition(), files = session_->files(), settings = session_->settings(),
-         workers = workers_, stop = estimating_.get_token()] {
-            return protectedEstimate(*tool, files, settings, *workers, stop);
-        },
-        [this, stop = estimating_.get_token()](std::optional<std::int64_t> bytes) {
-            if (stop.stop_requested()) return;
-            estimatedBytes_ = bytes;
-            isEstimating_ = false;
-            emit estimateChanged();
-        });
-}
-
-void ToolModel::beginExample() {
-    const std::uint64_t number = ++exampleNumber_;
-    if (!isOpen() || session_->files().empty() ||
-        (session_->renames() && session_->renameWay == RenameWay::inPlace)) {
-        example_.clear();
-        emit exampleChanged();
-        return;
-    }
-    JobOrder order = session_->order(today(), 0);
-    // One file tells how the others are named, but a tool that makes one of all names it after all.
-    if (!session_->combines()) order.files.resize(1);
-    inBackground(
-        pool_, this,
-        [order = std::move(order)] { return texts::example(order, JobRunner(nullptr).plan(order)); },
-        [this, number](const QString& example) {
-            if (number != exampleNumber_) return;
-            example_ = example;
-            emit exampleChanged();
-        });
+    forecast_.update(session_.get());
 }
 
 void ToolModel::setNotice(const QString& notice) {

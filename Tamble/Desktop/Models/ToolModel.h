@@ -1,11 +1,9 @@
 #pragma once
 
 #include <Tamble/Desktop/Models/FileListModel.h>
+#include <Tamble/Desktop/Models/Forecast.h>
 #include <Tamble/Desktop/Models/PanelModel.h>
 #include <Tamble/Desktop/Models/SaveModel.h>
-
-#include <QThreadPool>
-#include <QTimer>
 
 namespace tamble {
 
@@ -31,14 +29,10 @@ class ToolModel : public QObject {
     Q_PROPERTY(QString missing READ missing NOTIFY changed)
     Q_PROPERTY(QString startText READ startText NOTIFY changed)
     Q_PROPERTY(bool canStart READ canStart NOTIFY changed)
-    Q_PROPERTY(QString example READ example NOTIFY exampleChanged)
-    Q_PROPERTY(bool isEstimating READ isEstimating NOTIFY estimateChanged)
-    Q_PROPERTY(QString estimate READ estimate NOTIFY estimateChanged)
-    Q_PROPERTY(QString estimatedChange READ estimatedChange NOTIFY estimateChanged)
+    Q_PROPERTY(tamble::Forecast* forecast READ forecast CONSTANT)
 
   public:
     ToolModel(PreferencesStore& preferences, std::shared_ptr<WorkerPool> workers, QObject* parent = nullptr);
-    ~ToolModel() override;
 
     /// Opens the tool with those of the files that it works with.
     void open(const ToolInfo& tool, std::span<const InputFile> files);
@@ -67,10 +61,7 @@ class ToolModel : public QObject {
     QString missing() const;
     QString startText() const;
     bool canStart() const;
-    QString example() const { return example_; }
-    bool isEstimating() const { return isEstimating_; }
-    QString estimate() const;
-    QString estimatedChange() const;
+    Forecast* forecast() { return &forecast_; }
 
     /// Settings that an editor worked out: {"pages": […]}.
     void change(const Json& changes);
@@ -79,31 +70,20 @@ class ToolModel : public QObject {
     void opened();
     void changed();
     void noticeChanged();
-    void exampleChanged();
-    void estimateChanged();
     /// The settings, the password or the files are others than before.
     void inputsChanged();
 
   private:
     void filesChanged();
     void settingsChanged();
-    void beginEstimate();
-    void beginExample();
     void setNotice(const QString& notice);
 
-    std::shared_ptr<WorkerPool> workers_;
     std::unique_ptr<ToolSession> session_;
     FileListModel files_;
     PanelModel panel_;
     SaveModel save_;
     QString notice_;
-    QString example_;
-    std::optional<std::int64_t> estimatedBytes_;
-    bool isEstimating_ = false;
-    std::stop_source estimating_;
-    std::uint64_t exampleNumber_ = 0;
-    QTimer pause_;
-    QThreadPool pool_;
+    Forecast forecast_;
 };
 
 }  // namespace tamble

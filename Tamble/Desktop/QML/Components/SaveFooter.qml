@@ -72,7 +72,7 @@ Rectangle {
                 width: parent.width
                 quiet: true
                 text: root.save.mode === SaveModel.Replace && root.save.canReplace && !root.save.renames
-                      ? qsTr("%1 · The originals go to the Bin.").arg(App.tool.example) : App.tool.example || root.save.wayText
+                      ? qsTr("%1 · The originals go to the Bin.").arg(App.tool.forecast.example) : App.tool.forecast.example || root.save.wayText
                 elide: Text.ElideMiddle
             }
         }
@@ -85,8 +85,8 @@ Rectangle {
             Column {
                 anchors.verticalCenter: parent.verticalCenter
 
-                Label { anchors.right: parent.right; visible: text; text: App.tool.missing ? "" : App.tool.estimate; font.weight: Font.DemiBold }
-                Label { anchors.right: parent.right; visible: text && !App.tool.missing; quiet: true; text: App.tool.estimatedChange }
+                Label { anchors.right: parent.right; visible: text; text: App.tool.missing ? "" : App.tool.forecast.size; font.weight: Font.DemiBold }
+                Label { anchors.right: parent.right; visible: text && !App.tool.missing; quiet: true; text: App.tool.forecast.change }
                 Label {
                     anchors.right: parent.right
                     width: Math.min(implicitWidth, 240)

@@ -46,7 +46,8 @@ Item {
             height: frame.height
             clip: true
 
-            Rectangle { anchors.fill: parent; color: Theme.sunken }
+            // Hides the original, but not the frame's round corners.
+            Rectangle { y: 12; width: parent.width - 12; height: parent.height - 24; color: Theme.sunken }
             Checkers {
                 x: 12 + (after.width - after.paintedWidth) / 2 - right.x
                 y: 12 + (after.height - after.paintedHeight) / 2
