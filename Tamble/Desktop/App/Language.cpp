@@ -1,0 +1,15 @@
+#include <Tamble/Desktop/App/Language.h>
+
+#include <QGuiApplication>
+
+namespace tamble {
+
+Language::Language(const QLocale& locale) {
+    // English as well: its plurals.
+    if (english_.load(QStringLiteral(":/i18n/tamble_en.qm"))) QCoreApplication::installTranslator(&english_);
+    if (own_.load(locale, QStringLiteral("tamble"), QStringLiteral("_"), QStringLiteral(":/i18n")))
+        QCoreApplication::installTranslator(&own_);
+    QGuiApplication::setLayoutDirection(locale.textDirection());
+}
+
+}  // namespace tamble
