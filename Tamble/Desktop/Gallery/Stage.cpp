@@ -29,7 +29,7 @@ void Stage::until(const std::function<bool()>& condition) {
 }
 
 bool Stage::isSettled() {
-    return !app().intake()->isBusy() && !app().tool()->isEstimating() && !app().comparison()->isBusy() &&
+    return !app().intake()->isBusy() && !app().tool()->forecast()->isEstimating() && !app().comparison()->isBusy() &&
            !isLoading(*window().contentItem());
 }
 

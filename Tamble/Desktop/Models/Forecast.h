@@ -28,6 +28,7 @@ class Forecast : public QObject {
     /// Only where to save is.
     void updateExample(const ToolSession* session);
 
+    bool isEstimating() const { return isEstimating_; }
     /// "412 MB → estimating…", then "412 MB → about 96 MB"; empty for what cannot be told.
     QString size() const;
     /// "77 % smaller".
