@@ -5,6 +5,8 @@ import Tamble
 Rectangle {
     id: root
 
+    readonly property bool low: height < 300
+
     radius: Theme.dropRadius
     color: Theme.brandSoft
 
@@ -12,11 +14,12 @@ Rectangle {
 
     Column {
         anchors.centerIn: parent
-        width: parent.width - 64
-        spacing: Theme.space3
+        width: parent.width - 48
+        spacing: root.low ? Theme.space2 : Theme.space3
 
         Mascot {
             anchors.horizontalCenter: parent.horizontalCenter
+            visible: !root.low
             size: Math.min(170, root.height * 0.4)
             expression: App.intake.isBusy ? "working" : "waiting"
             moving: Theme.moves
@@ -25,12 +28,12 @@ Rectangle {
         Label { width: parent.width; quiet: true; text: App.tool.subtitle; horizontalAlignment: Text.AlignHCenter; wrapMode: Text.Wrap }
         Grid {
             anchors.horizontalCenter: parent.horizontalCenter
-            columns: root.width < 380 ? 1 : 2
-            spacing: Theme.space3
+            columns: parent.width < 270 ? 1 : 2
+            spacing: Theme.space2
             horizontalItemAlignment: Grid.AlignHCenter
 
-            PushButton { kind: "main"; big: true; text: qsTr("Add files…"); onClicked: App.choose("files", "", urls => App.take(urls)) }
-            PushButton { big: true; text: qsTr("Add folder…"); onClicked: App.choose("folder", "", urls => App.take(urls)) }
+            PushButton { kind: "main"; big: !root.low; text: qsTr("Add files…"); onClicked: App.choose("files", "", urls => App.take(urls)) }
+            PushButton { big: !root.low; text: qsTr("Add folder…"); onClicked: App.choose("folder", "", urls => App.take(urls)) }
         }
     }
 }

@@ -10,7 +10,10 @@ Rectangle {
     readonly property SaveModel save: App.tool.save
     readonly property bool tight: width < 860
     readonly property string namesProblem: App.tool.editor !== "names" || App.tool.files.count === 0 ? "" : App.names.obstacle
+    readonly property string missing: App.pages.missing || App.tool.missing || namesProblem
     readonly property bool canStart: App.tool.canStart && !namesProblem
+    readonly property string example: save.mode === SaveModel.Replace && save.canReplace && !save.renames && App.tool.forecast.example
+        ? qsTr("%1 · The originals go to the Bin.").arg(App.tool.forecast.example) : App.tool.forecast.example || save.wayText
 
     height: content.height + 28
     color: Theme.surface
@@ -23,87 +26,79 @@ Rectangle {
         x: root.margin
         y: 14
         width: root.width - 2 * root.margin
-        height: root.tight ? choices.height + outcome.height + 10 : Math.max(choices.height, outcome.height)
+        height: root.tight ? choices.height + 10 + Math.max(start.height, facts.height)
+                           : Math.max(choices.height + 6 + wide.height, start.height, facts.height)
 
-        Column {
+        SaveChoices {
             id: choices
 
-            width: root.tight ? parent.width : parent.width - outcome.width - 24
-            spacing: 6
+            width: root.tight ? parent.width : parent.width - start.width - facts.width - 44
+        }
+        Label {
+            id: wide
 
-            Flow {
-                width: parent.width
-                spacing: Theme.space2
+            anchors { left: parent.left; top: choices.bottom; topMargin: 6 }
+            width: choices.width
+            visible: !root.tight
+            quiet: true
+            text: root.example
+            elide: Text.ElideMiddle
+        }
+        Column {
+            id: facts
 
-                Segments {
-                    visible: root.save.renames
-                    stretch: false
-                    options: [{ "label": qsTr("Rename the files") }, { "label": qsTr("Make renamed copies") }]
-                    current: root.save.renamesCopies ? 1 : 0
-                    onPicked: index => root.save.renamesCopies = index === 1
-                }
-                Segments {
-                    visible: !root.save.renames || root.save.renamesCopies
-                    stretch: false
-                    options: root.save.canReplace
-                        ? [{ "label": qsTr("Next to each original") }, { "label": qsTr("In one folder") }, { "label": qsTr("In place of originals") }]
-                        : [{ "label": qsTr("Next to each original") }, { "label": qsTr("In one folder") }]
-                    current: root.save.mode === SaveModel.Replace && !root.save.canReplace ? 0 : root.save.mode
-                    onPicked: index => root.save.mode = index
-                }
-                PushButton {
-                    visible: root.save.mode === SaveModel.OneFolder && (!root.save.renames || root.save.renamesCopies)
-                    width: Math.min(implicitWidth, 300)
-                    elide: Text.ElideMiddle
-                    sign: "ui.folder"
-                    text: root.save.folder
-                    Accessible.description: qsTr("Choose a folder")
-                    onClicked: App.choose("folder", root.save.folderUrl, urls => root.save.chooseFolder(urls[0]))
-                }
-                Chooser {
-                    visible: !root.save.renames || root.save.renamesCopies
-                    hint: qsTr("If the name is taken")
-                    model: [qsTr("Add a number"), qsTr("Skip the file"), qsTr("Replace the old one")]
-                    currentIndex: root.save.clash
-                    onActivated: index => root.save.clash = index
-                }
-            }
+            readonly property int side: root.tight ? Text.AlignLeft : Text.AlignRight
+
+            anchors { right: start.left; rightMargin: 20; verticalCenter: start.verticalCenter }
+            width: root.tight ? parent.width - start.width - 20
+                              : root.missing ? 220 : Math.max(size.implicitWidth, change.implicitWidth)
+
             Label {
                 width: parent.width
+                visible: root.tight && text
                 quiet: true
-                text: root.save.mode === SaveModel.Replace && root.save.canReplace && !root.save.renames
-                      ? qsTr("%1 · The originals go to the Bin.").arg(App.tool.forecast.example) : App.tool.forecast.example || root.save.wayText
-                elide: Text.ElideMiddle
+                text: root.example
+                wrapMode: App.tool.forecast.example ? Text.NoWrap : Text.Wrap
+                elide: App.tool.forecast.example ? Text.ElideMiddle : Text.ElideNone
+            }
+            Label {
+                id: size
+
+                width: parent.width
+                visible: text && !root.missing
+                text: App.tool.forecast.size
+                font.weight: Font.DemiBold
+                horizontalAlignment: facts.side
+            }
+            Label {
+                id: change
+
+                width: parent.width
+                visible: text && !root.missing && !root.tight
+                quiet: true
+                text: App.tool.forecast.change
+                horizontalAlignment: facts.side
+            }
+            Label {
+                id: missing
+
+                width: parent.width
+                visible: text
+                color: Theme.warn
+                text: root.missing
+                horizontalAlignment: facts.side
+                wrapMode: Text.Wrap
             }
         }
-        Row {
-            id: outcome
+        PushButton {
+            id: start
 
             anchors { right: parent.right; bottom: parent.bottom }
-            spacing: 20
-
-            Column {
-                anchors.verticalCenter: parent.verticalCenter
-
-                Label { anchors.right: parent.right; visible: text; text: App.tool.missing ? "" : App.tool.forecast.size; font.weight: Font.DemiBold }
-                Label { anchors.right: parent.right; visible: text && !App.tool.missing; quiet: true; text: App.tool.forecast.change }
-                Label {
-                    anchors.right: parent.right
-                    width: Math.min(implicitWidth, 240)
-                    visible: text
-                    color: Theme.warn
-                    text: App.pages.missing || App.tool.missing || root.namesProblem
-                    wrapMode: Text.Wrap
-                    horizontalAlignment: Text.AlignRight
-                }
-            }
-            PushButton {
-                kind: "main"
-                big: true
-                enabled: root.canStart
-                text: App.tool.startText
-                onClicked: App.startJob()
-            }
+            kind: "main"
+            big: true
+            enabled: root.canStart
+            text: App.tool.startText
+            onClicked: App.startJob()
         }
     }
 
