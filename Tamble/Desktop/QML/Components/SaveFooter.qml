@@ -19,6 +19,12 @@ Rectangle {
     color: Theme.surface
 
     Divider { width: parent.width }
+    TextMetrics {
+        id: measure
+
+        font: size.font
+        text: size.text.length > change.text.length ? size.text : change.text
+    }
 
     Item {
         id: content
@@ -51,7 +57,7 @@ Rectangle {
 
             anchors { right: start.left; rightMargin: 20; verticalCenter: start.verticalCenter }
             width: root.tight ? parent.width - start.width - 20
-                              : root.missing ? 220 : Math.max(size.implicitWidth, change.implicitWidth)
+                              : root.missing ? 220 : Math.ceil(measure.advanceWidth) + 2
 
             Label {
                 width: parent.width
