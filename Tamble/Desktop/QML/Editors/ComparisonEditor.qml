@@ -88,7 +88,8 @@ Item {
             Keys.onLeftPressed: root.share = Math.max(0, root.share - 0.05)
             Keys.onRightPressed: root.share = Math.min(1, root.share + 0.05)
 
-            Shadow { radius: 19; lifted: true }
+            // Too small for the shadow picture.
+            Rectangle { z: -1; x: -2; y: 0; width: 42; height: 42; radius: 21; color: "#30000000" }
             FocusRing { of: knob; around: 19 }
             Row {
                 anchors.centerIn: parent
