@@ -28,6 +28,7 @@ Rectangle {
         Column {
             id: choices
 
+            anchors.left: parent.left
             width: root.tight ? parent.width : parent.width - outcome.width - 24
             spacing: 6
 
