@@ -152,6 +152,33 @@
     </message>
 </context>
 <context>
+    <name>DocumentTrouble</name>
+    <message>
+        <source>This PDF is locked</source>
+        <translation>Diese PDF ist gesperrt</translation>
+    </message>
+    <message>
+        <source>This PDF can&apos;t be shown</source>
+        <translation>Diese PDF lässt sich nicht zeigen</translation>
+    </message>
+    <message>
+        <source>Opening the PDF…</source>
+        <translation>PDF wird geöffnet…</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Password of the PDF</source>
+        <translation>Passwort der PDF</translation>
+    </message>
+    <message>
+        <source>Open the PDF</source>
+        <translation>PDF öffnen</translation>
+    </message>
+</context>
+<context>
     <name>DoneScreen</name>
     <message>
         <source>Undone</source>
@@ -1016,7 +1043,7 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     </message>
     <message>
         <source>Type a password (at least 4 characters)</source>
-        <translation>Passwort eintippen (mindestens 4 Zeichen)</translation>
+        <translation>Passwort (mindestens 4 Zeichen)</translation>
     </message>
     <message>
         <source>Remove a password</source>
@@ -1874,7 +1901,7 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     </message>
     <message>
         <source>Drag into the order you want</source>
-        <translation>Zieh sie in die gewünschte Reihenfolge</translation>
+        <translation>Zum Ordnen ziehen</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s)</source>
@@ -1893,7 +1920,7 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     </message>
     <message>
         <source>As dropped</source>
-        <translation>Wie hineingezogen</translation>
+        <translation>Wie abgelegt</translation>
     </message>
     <message>
         <source>By name</source>
@@ -1914,6 +1941,10 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     <message>
         <source>Remove from the list</source>
         <translation>Aus der Liste nehmen</translation>
+    </message>
+    <message>
+        <source>Remove the folder from the list</source>
+        <translation>Ordner aus der Liste nehmen</translation>
     </message>
 </context>
 <context>
@@ -2007,7 +2038,7 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     </message>
     <message>
         <source>As dropped</source>
-        <translation>Wie hineingezogen</translation>
+        <translation>Wie abgelegt</translation>
     </message>
     <message>
         <source>By name</source>
@@ -2028,6 +2059,89 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     <message>
         <source>%1 becomes %2</source>
         <translation>%1 wird zu %2</translation>
+    </message>
+</context>
+<context>
+    <name>PageCell</name>
+    <message>
+        <source>Page %1</source>
+        <translation>Seite %1</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>ausgelassen</translation>
+    </message>
+    <message>
+        <source>%1 · left out</source>
+        <translation>%1 · ausgelassen</translation>
+    </message>
+</context>
+<context>
+    <name>PageEditor</name>
+    <message>
+        <source>Smaller pages</source>
+        <translation>Kleinere Seiten</translation>
+    </message>
+    <message>
+        <source>Larger pages</source>
+        <translation>Größere Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>PageGrid</name>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%Ln Seite</numerusform>
+            <numerusform>%Ln Seiten</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PageTools</name>
+    <message>
+        <source>Turn left</source>
+        <translation>Nach links drehen</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <translation>Nach rechts drehen</translation>
+    </message>
+    <message>
+        <source>Bring back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Leave out</source>
+        <translation>Auslassen</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>Keine auswählen</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Start over</source>
+        <translation>Von vorn</translation>
+    </message>
+    <message>
+        <source>With the keyboard: Alt and the arrows move pages, R turns them, Delete leaves them out.</source>
+        <translation>Mit der Tastatur: Alt und die Pfeile verschieben Seiten, R dreht sie, Entf lässt sie aus.</translation>
+    </message>
+    <message>
+        <source>At least one page has to stay.</source>
+        <translation>Mindestens eine Seite muss bleiben.</translation>
     </message>
 </context>
 <context>
@@ -2244,7 +2358,7 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     <name>Sidebar</name>
     <message>
         <source>Find a tool</source>
-        <translation>Werkzeug suchen</translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Ctrl K</source>
@@ -2462,6 +2576,17 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     </message>
 </context>
 <context>
+    <name>ToolScreen</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+</context>
+<context>
     <name>Undo</name>
     <message numerus="yes">
         <source>%n file(s) have their old names again.</source>
@@ -2530,23 +2655,27 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
             <numerusform>Das Umbenennen von „%1“ wurde unterbrochen, als %Ln Dateien ihre neuen Namen hatten.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>A job over “%1” was interrupted while it saved.</source>
+        <translation>Ein Auftrag zu „%1“ wurde beim Sichern unterbrochen.</translation>
+    </message>
     <message numerus="yes">
-        <source>%n new file(s) were saved</source>
+        <source>%n new file(s) were saved.</source>
         <translation>
-            <numerusform>%Ln neue Datei wurde gesichert</numerusform>
-            <numerusform>%Ln neue Dateien wurden gesichert</numerusform>
+            <numerusform>%Ln neue Datei wurde gesichert.</numerusform>
+            <numerusform>%Ln neue Dateien wurden gesichert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n original(s) are in the Bin</source>
+        <source>%n original(s) are in the Bin.</source>
         <translation>
-            <numerusform>%Ln Original liegt im Papierkorb</numerusform>
-            <numerusform>%Ln Originale liegen im Papierkorb</numerusform>
+            <numerusform>%Ln Original liegt im Papierkorb.</numerusform>
+            <numerusform>%Ln Originale liegen im Papierkorb.</numerusform>
         </translation>
     </message>
     <message>
-        <source>A job over “%1” was interrupted while it saved: %2, %3. You can put everything back.</source>
-        <translation>Ein Auftrag zu „%1“ wurde beim Sichern unterbrochen: %2, %3. Du kannst alles zurückholen.</translation>
+        <source>You can put everything back.</source>
+        <translation>Du kannst alles zurückholen.</translation>
     </message>
 </context>
 <context>
@@ -2620,6 +2749,13 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     <message>
         <source>Working it out…</source>
         <translation>Wird ausprobiert…</translation>
+    </message>
+</context>
+<context>
+    <name>tamble::FileListModel</name>
+    <message>
+        <source>Single files</source>
+        <translation>Einzelne Dateien</translation>
     </message>
 </context>
 <context>
@@ -2713,6 +2849,87 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
             <numerusform>%Ln Problem</numerusform>
             <numerusform>%Ln Probleme</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Add numbers to tell the files apart.</source>
+        <translation>Nummern unterscheiden die Dateien.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n name(s) can&apos;t be given yet.</source>
+        <translation>
+            <numerusform>%Ln Name geht noch nicht.</numerusform>
+            <numerusform>%Ln Namen gehen noch nicht.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All names stay as they are so far.</source>
+        <translation>Bisher bleiben alle Namen, wie sie sind.</translation>
+    </message>
+</context>
+<context>
+    <name>tamble::PagesModel</name>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%Ln Seite</numerusform>
+            <numerusform>%Ln Seiten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation>
+            <numerusform>%Ln ausgelassen</numerusform>
+            <numerusform>%Ln ausgelassen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%Ln ausgewählt</numerusform>
+            <numerusform>%Ln ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n to be deleted</source>
+        <translation>
+            <numerusform>%Ln zum Löschen</numerusform>
+            <numerusform>%Ln zum Löschen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n to be taken out</source>
+        <translation>
+            <numerusform>%Ln zum Herausnehmen</numerusform>
+            <numerusform>%Ln zum Herausnehmen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put the pages in order</source>
+        <translation>Seiten in Reihenfolge bringen</translation>
+    </message>
+    <message>
+        <source>Which pages should go?</source>
+        <translation>Welche Seiten sollen weg?</translation>
+    </message>
+    <message>
+        <source>Which pages do you want?</source>
+        <translation>Welche Seiten möchtest du?</translation>
+    </message>
+    <message>
+        <source>Drag pages to where they belong. Select several to move, turn or leave them out together.</source>
+        <translation>Zieh Seiten dorthin, wo sie hingehören. Wähle mehrere aus, um sie zusammen zu verschieben, zu drehen oder auszulassen.</translation>
+    </message>
+    <message>
+        <source>Click the pages, or draw a frame around them. Hold Shift for all in between.</source>
+        <translation>Klick die Seiten an oder zieh einen Rahmen um sie. Mit der Umschalttaste kommen alle dazwischen dazu.</translation>
+    </message>
+    <message>
+        <source>Move, turn or leave out a page first.</source>
+        <translation>Verschiebe oder dreh zuerst eine Seite, oder lass eine aus.</translation>
+    </message>
+    <message>
+        <source>Pick at least one page first.</source>
+        <translation>Wähle zuerst mindestens eine Seite.</translation>
     </message>
 </context>
 <context>

@@ -152,6 +152,33 @@
     </message>
 </context>
 <context>
+    <name>DocumentTrouble</name>
+    <message>
+        <source>This PDF is locked</source>
+        <translation>This PDF is locked</translation>
+    </message>
+    <message>
+        <source>This PDF can&apos;t be shown</source>
+        <translation>This PDF can&apos;t be shown</translation>
+    </message>
+    <message>
+        <source>Opening the PDF…</source>
+        <translation>Opening the PDF…</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>Password of the PDF</source>
+        <translation>Password of the PDF</translation>
+    </message>
+    <message>
+        <source>Open the PDF</source>
+        <translation>Open the PDF</translation>
+    </message>
+</context>
+<context>
     <name>DoneScreen</name>
     <message>
         <source>Undone</source>
@@ -1915,6 +1942,10 @@ Works best when the subject stands out clearly from the background.</translation
         <source>Remove from the list</source>
         <translation>Remove from the list</translation>
     </message>
+    <message>
+        <source>Remove the folder from the list</source>
+        <translation>Remove the folder from the list</translation>
+    </message>
 </context>
 <context>
     <name>FilesInvitation</name>
@@ -2028,6 +2059,89 @@ Works best when the subject stands out clearly from the background.</translation
     <message>
         <source>%1 becomes %2</source>
         <translation>%1 becomes %2</translation>
+    </message>
+</context>
+<context>
+    <name>PageCell</name>
+    <message>
+        <source>Page %1</source>
+        <translation>Page %1</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>left out</translation>
+    </message>
+    <message>
+        <source>%1 · left out</source>
+        <translation>%1 · left out</translation>
+    </message>
+</context>
+<context>
+    <name>PageEditor</name>
+    <message>
+        <source>Smaller pages</source>
+        <translation>Smaller pages</translation>
+    </message>
+    <message>
+        <source>Larger pages</source>
+        <translation>Larger pages</translation>
+    </message>
+</context>
+<context>
+    <name>PageGrid</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%Ln page</numerusform>
+            <numerusform>%Ln pages</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PageTools</name>
+    <message>
+        <source>Turn left</source>
+        <translation>Turn left</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <translation>Turn right</translation>
+    </message>
+    <message>
+        <source>Bring back</source>
+        <translation>Bring back</translation>
+    </message>
+    <message>
+        <source>Leave out</source>
+        <translation>Leave out</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>Select none</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Start over</source>
+        <translation>Start over</translation>
+    </message>
+    <message>
+        <source>With the keyboard: Alt and the arrows move pages, R turns them, Delete leaves them out.</source>
+        <translation>With the keyboard: Alt and the arrows move pages, R turns them, Delete leaves them out.</translation>
+    </message>
+    <message>
+        <source>At least one page has to stay.</source>
+        <translation>At least one page has to stay.</translation>
     </message>
 </context>
 <context>
@@ -2462,6 +2576,17 @@ Works best when the subject stands out clearly from the background.</translation
     </message>
 </context>
 <context>
+    <name>ToolScreen</name>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+</context>
+<context>
     <name>Undo</name>
     <message numerus="yes">
         <source>%n file(s) have their old names again.</source>
@@ -2530,23 +2655,27 @@ Works best when the subject stands out clearly from the background.</translation
             <numerusform>Renaming “%1” was interrupted when %Ln files had their new names.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>A job over “%1” was interrupted while it saved.</source>
+        <translation>A job over “%1” was interrupted while it saved.</translation>
+    </message>
     <message numerus="yes">
-        <source>%n new file(s) were saved</source>
+        <source>%n new file(s) were saved.</source>
         <translation>
-            <numerusform>%Ln new file was saved</numerusform>
-            <numerusform>%Ln new files were saved</numerusform>
+            <numerusform>%Ln new file was saved.</numerusform>
+            <numerusform>%Ln new files were saved.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n original(s) are in the Bin</source>
+        <source>%n original(s) are in the Bin.</source>
         <translation>
-            <numerusform>%Ln original is in the Bin</numerusform>
-            <numerusform>%Ln originals are in the Bin</numerusform>
+            <numerusform>%Ln original is in the Bin.</numerusform>
+            <numerusform>%Ln originals are in the Bin.</numerusform>
         </translation>
     </message>
     <message>
-        <source>A job over “%1” was interrupted while it saved: %2, %3. You can put everything back.</source>
-        <translation>A job over “%1” was interrupted while it saved: %2, %3. You can put everything back.</translation>
+        <source>You can put everything back.</source>
+        <translation>You can put everything back.</translation>
     </message>
 </context>
 <context>
@@ -2620,6 +2749,13 @@ Works best when the subject stands out clearly from the background.</translation
     <message>
         <source>Working it out…</source>
         <translation>Working it out…</translation>
+    </message>
+</context>
+<context>
+    <name>tamble::FileListModel</name>
+    <message>
+        <source>Single files</source>
+        <translation>Single files</translation>
     </message>
 </context>
 <context>
@@ -2713,6 +2849,87 @@ Works best when the subject stands out clearly from the background.</translation
             <numerusform>%Ln problem</numerusform>
             <numerusform>%Ln problems</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Add numbers to tell the files apart.</source>
+        <translation>Add numbers to tell the files apart.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n name(s) can&apos;t be given yet.</source>
+        <translation>
+            <numerusform>%Ln name can&apos;t be given yet.</numerusform>
+            <numerusform>%Ln names can&apos;t be given yet.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All names stay as they are so far.</source>
+        <translation>All names stay as they are so far.</translation>
+    </message>
+</context>
+<context>
+    <name>tamble::PagesModel</name>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%Ln page</numerusform>
+            <numerusform>%Ln pages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation>
+            <numerusform>%Ln left out</numerusform>
+            <numerusform>%Ln left out</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%Ln selected</numerusform>
+            <numerusform>%Ln selected</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n to be deleted</source>
+        <translation>
+            <numerusform>%Ln to be deleted</numerusform>
+            <numerusform>%Ln to be deleted</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n to be taken out</source>
+        <translation>
+            <numerusform>%Ln to be taken out</numerusform>
+            <numerusform>%Ln to be taken out</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put the pages in order</source>
+        <translation>Put the pages in order</translation>
+    </message>
+    <message>
+        <source>Which pages should go?</source>
+        <translation>Which pages should go?</translation>
+    </message>
+    <message>
+        <source>Which pages do you want?</source>
+        <translation>Which pages do you want?</translation>
+    </message>
+    <message>
+        <source>Drag pages to where they belong. Select several to move, turn or leave them out together.</source>
+        <translation>Drag pages to where they belong. Select several to move, turn or leave them out together.</translation>
+    </message>
+    <message>
+        <source>Click the pages, or draw a frame around them. Hold Shift for all in between.</source>
+        <translation>Click the pages, or draw a frame around them. Hold Shift for all in between.</translation>
+    </message>
+    <message>
+        <source>Move, turn or leave out a page first.</source>
+        <translation>Move, turn or leave out a page first.</translation>
+    </message>
+    <message>
+        <source>Pick at least one page first.</source>
+        <translation>Pick at least one page first.</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,7 @@ Item {
             Label {
                 id: title
 
+                anchors.left: parent.left
                 width: Math.min(implicitWidth, parent.width)
                 text: root.title
                 font.weight: Font.DemiBold

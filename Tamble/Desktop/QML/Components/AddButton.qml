@@ -14,7 +14,7 @@ PushButton {
         id: menu
 
         y: root.height + 4
-        x: root.width - width
+        x: root.mirrored ? 0 : root.width - width
         implicitWidth: 190
         implicitHeight: contentItem.contentHeight + 12
         padding: 6

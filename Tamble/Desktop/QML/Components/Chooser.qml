@@ -23,8 +23,8 @@ T.ComboBox {
     }
 
     contentItem: Label {
-        leftPadding: 12
-        rightPadding: 32
+        leftPadding: root.mirrored ? 32 : 12
+        rightPadding: root.mirrored ? 12 : 32
         text: root.displayText
         font.weight: Font.Medium
         elide: Text.ElideRight
@@ -57,8 +57,8 @@ T.ComboBox {
         text: modelData
         Accessible.name: text
         contentItem: Label {
-            leftPadding: 10
-            rightPadding: 28
+            leftPadding: root.mirrored ? 28 : 10
+            rightPadding: root.mirrored ? 10 : 28
             text: item.text
             elide: Text.ElideRight
             Accessible.ignored: true
@@ -77,6 +77,7 @@ T.ComboBox {
     }
 
     popup: T.Popup {
+        x: root.mirrored ? root.width - width : 0
         y: root.height + 4
         width: Math.max(root.width, 200)
         implicitHeight: Math.min(contentItem.implicitHeight + 12, 320)

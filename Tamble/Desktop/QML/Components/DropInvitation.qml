@@ -36,6 +36,7 @@ Rectangle {
             wrapMode: Text.Wrap
         }
         Label {
+            anchors.left: parent.left
             width: Math.min(parent.width, 430)
             kind: "strong"
             font.weight: Font.Normal

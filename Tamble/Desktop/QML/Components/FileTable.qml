@@ -37,12 +37,17 @@ Surface {
         height: 48
 
         Label {
-            anchors { left: parent.left; leftMargin: 16; verticalCenter: parent.verticalCenter }
+            anchors { left: parent.left; leftMargin: 16; right: tools.left; rightMargin: Theme.space2; verticalCenter: parent.verticalCenter }
             kind: "caption"
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
             quiet: true
             text: root.selectedCount > 0 ? qsTr("%n selected", "", root.selectedCount) : App.tool.ordersFiles ? qsTr("Drag into the order you want") : qsTr("%n file(s)", "", list.count)
         }
         Row {
+            id: tools
+
             anchors { right: parent.right; rightMargin: 8; verticalCenter: parent.verticalCenter }
             spacing: Theme.space2
 

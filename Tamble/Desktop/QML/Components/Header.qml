@@ -17,7 +17,7 @@ Item {
     IconButton {
         id: backButton
 
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
         visible: root.back
         framed: true
         sign: "ui.back"

@@ -26,7 +26,6 @@ T.Button {
             name: root.sign
             size: root.signSize
             color: root.hovered ? Theme.ink : root.signColor
-            mirror: (root.sign === "ui.back" || root.sign === "ui.forward") && root.mirrored
         }
     }
 

@@ -17,6 +17,7 @@ Text {
     font.weight: kind === "body" ? Font.Normal : kind === "strong" || kind === "caption" ? Font.DemiBold : 650
     font.letterSpacing: kind === "display" ? -0.7 : kind === "title" ? -0.5 : kind === "heading" ? -0.2 : 0
     lineHeight: kind === "body" || kind === "strong" ? 1.25 : 1.1
+    horizontalAlignment: Text.AlignLeft // mirrored where the screen is, whatever is written
     verticalAlignment: Text.AlignVCenter
     textFormat: Text.PlainText
     Accessible.role: kind === "display" || kind === "title" || kind === "heading" ? Accessible.Heading : Accessible.StaticText

@@ -12,7 +12,7 @@ T.MenuItem {
     Accessible.name: text
 
     contentItem: Item {
-        Sign { id: mark; x: 10; anchors.verticalCenter: parent.verticalCenter; name: root.sign; size: 18 }
+        Sign { id: mark; anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter } name: root.sign; size: 18 }
         Label { anchors { left: mark.right; leftMargin: 10; right: parent.right; verticalCenter: parent.verticalCenter } text: root.text; elide: Text.ElideRight; Accessible.ignored: true }
     }
     background: Rectangle { radius: 8; color: root.highlighted ? Theme.hover : "transparent" }

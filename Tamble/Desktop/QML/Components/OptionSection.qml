@@ -70,6 +70,7 @@ Column {
                 }
             }
             PushButton {
+                anchors.left: parent.left
                 visible: root.moreChoices.length > 0 && !root.showsMore
                 kind: "quiet"
                 text: root.moreLabel

@@ -14,10 +14,11 @@ Column {
     spacing: Theme.space2
 
     Label { width: parent.width; kind: "strong"; text: root.title; wrapMode: Text.Wrap }
-    Row {
+    Flow {
+        width: parent.width
         spacing: Theme.space2
 
-        PushButton { sign: "ui.file"; text: root.path || root.usual; onClicked: App.choose("file", "", urls => root.chosen(urls[0])) }
+        PushButton { width: Math.min(implicitWidth, root.width); elide: Text.ElideMiddle; sign: "ui.file"; text: root.path || root.usual; onClicked: App.choose("file", "", urls => root.chosen(urls[0])) }
         PushButton { visible: root.path; kind: "quiet"; text: qsTr("Use the usual one"); onClicked: root.chosen("") }
     }
     Label { width: parent.width; visible: text; quiet: true; text: root.note; wrapMode: Text.Wrap }

@@ -14,6 +14,7 @@ Rectangle {
     Accessible.name: Math.round(value * 100) + " %"
 
     Rectangle {
+        anchors.left: parent.left
         width: Math.max(parent.height, parent.width * root.value)
         height: parent.height
         radius: 5

@@ -50,7 +50,7 @@ T.Popup {
         Flow {
             width: parent.width
             spacing: Theme.space3
-            layoutDirection: Qt.application.layoutDirection === Qt.RightToLeft ? Qt.LeftToRight : Qt.RightToLeft
+            layoutDirection: Qt.RightToLeft
 
             PushButton {
                 kind: "main"

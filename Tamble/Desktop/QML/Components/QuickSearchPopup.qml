@@ -38,7 +38,8 @@ T.Popup {
 
             width: parent.width
             implicitHeight: 48
-            leftPadding: 44
+            leftPadding: LayoutMirroring.enabled ? 12 : 44
+            rightPadding: LayoutMirroring.enabled ? 44 : 12
             font.pixelSize: Theme.strongSize
             placeholderText: qsTr("What would you like to do?")
             Accessible.name: placeholderText
@@ -51,7 +52,7 @@ T.Popup {
             onAccepted: root.start(list.currentIndex)
             background: Item {}
 
-            Sign { x: 14; anchors.verticalCenter: parent.verticalCenter; name: "ui.search"; size: 20 }
+            Sign { anchors { left: parent.left; leftMargin: 14; verticalCenter: parent.verticalCenter } name: "ui.search"; size: 20 }
         }
         Divider { width: parent.width }
         ListView {
@@ -85,7 +86,7 @@ T.Popup {
                 onHoveredChanged: if (hovered) list.currentIndex = index
 
                 contentItem: Item {
-                    Tile { id: tile; anchors.verticalCenter: parent.verticalCenter; x: 8; size: 36; symbol: row.symbol; category: row.category }
+                    Tile { id: tile; anchors { left: parent.left; leftMargin: 8; verticalCenter: parent.verticalCenter } size: 36; symbol: row.symbol; category: row.category }
                     Column {
                         anchors { left: tile.right; leftMargin: 12; right: hint.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
 

@@ -18,7 +18,7 @@ Column {
         width: parent.width
         height: Math.max(title.height, button.visible ? 30 : 0)
 
-        Label { id: title; anchors.verticalCenter: parent.verticalCenter; kind: "heading"; text: root.heading }
+        Label { id: title; anchors { left: parent.left; verticalCenter: parent.verticalCenter } kind: "heading"; text: root.heading }
         PushButton {
             id: button
 

@@ -23,16 +23,18 @@ Column {
         visible: root.defaults.mode === 1
         spacing: Theme.space2
 
-        Row {
+        Flow {
+            width: parent.width
             spacing: Theme.space2
 
-            PushButton { sign: "ui.folder"; text: root.defaults.folder; onClicked: App.choose("folder", "", urls => root.defaults.chooseFolder(urls[0])) }
+            PushButton { width: Math.min(implicitWidth, root.width); elide: Text.ElideMiddle; sign: "ui.folder"; text: root.defaults.folder; onClicked: App.choose("folder", "", urls => root.defaults.chooseFolder(urls[0])) }
             PushButton { kind: "quiet"; text: qsTr("Use Downloads"); onClicked: root.defaults.forgetFolder() }
         }
         Toggle { width: parent.width; text: qsTr("A folder for each day"); checked: root.defaults.addDateFolder; onToggled: root.defaults.addDateFolder = checked }
         Toggle { width: parent.width; text: qsTr("Keep the folders as they were"); checked: root.defaults.keepStructure; onToggled: root.defaults.keepStructure = checked }
     }
     Row {
+        anchors.left: parent.left
         spacing: Theme.space3
 
         Label { anchors.verticalCenter: parent.verticalCenter; quiet: true; text: qsTr("If the name is taken") }

@@ -38,6 +38,7 @@ Rectangle {
         SaveChoices {
             id: choices
 
+            anchors.left: parent.left
             width: root.tight ? parent.width : parent.width - start.width - facts.width - 44
         }
         Label {

@@ -20,11 +20,24 @@ Rectangle {
     Row {
         id: row
 
+        // As wide as each other if all words fit so, else each by its word.
+        readonly property real room: width - (root.options.length - 1) * spacing
+        readonly property real share: room / root.options.length
+        readonly property var widths: root.options.map((option, index) => made > index ? segments.itemAt(index)?.implicitWidth ?? 0 : 0)
+        readonly property real words: widths.reduce((sum, each) => sum + each, 0)
+        readonly property bool even: widths.every(each => each <= share)
+
+        property int made: 0
+
         anchors { fill: parent; margins: 3 }
         spacing: 2
 
         Repeater {
+            id: segments
+
             model: root.options
+            onItemAdded: ++row.made
+            onItemRemoved: --row.made
 
             T.RadioButton {
                 id: segment
@@ -32,9 +45,7 @@ Rectangle {
                 required property int index
                 required property var modelData
 
-                readonly property real share: (row.width - (root.options.length - 1) * row.spacing) / root.options.length
-
-                width: root.stretch ? share : implicitWidth
+                width: root.stretch ? Math.max(0, row.even ? row.share : implicitWidth + (row.room - row.words) / root.options.length) : implicitWidth
                 implicitWidth: word.implicitWidth + 26
                 height: row.height
                 checked: index === root.current

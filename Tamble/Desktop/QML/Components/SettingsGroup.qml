@@ -9,7 +9,7 @@ Column {
 
     spacing: Theme.space3
 
-    Label { kind: "heading"; text: root.heading }
+    Label { width: parent.width; kind: "heading"; text: root.heading; wrapMode: Text.Wrap }
     Surface {
         width: parent.width
         height: inner.height + 2 * Theme.space4

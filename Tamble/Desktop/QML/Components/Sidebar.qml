@@ -90,7 +90,7 @@ Item {
             Image {
                 id: face
 
-                x: root.narrow ? (parent.width - width) / 2 : 8
+                x: root.narrow ? (parent.width - width) / 2 : LayoutMirroring.enabled ? parent.width - width - 8 : 8
                 width: 30
                 height: 30
                 source: "icon.svg"

@@ -7,6 +7,7 @@ Image {
     property color color: Theme.ink2
     property int size: 20
 
+    mirror: LayoutMirroring.enabled && (name === "ui.back" || name === "ui.forward" || name === "ui.chevron.right")
     width: size
     height: size
     sourceSize: Qt.size(size * Screen.devicePixelRatio, size * Screen.devicePixelRatio)

@@ -10,8 +10,9 @@ T.TextField {
 
     implicitHeight: Theme.control
     implicitWidth: 200
-    leftPadding: 12
-    rightPadding: secret ? 40 : 12
+    leftPadding: secret && LayoutMirroring.enabled ? 40 : 12
+    rightPadding: secret && !LayoutMirroring.enabled ? 40 : 12
+    horizontalAlignment: TextInput.AlignLeft
     color: Theme.ink
     placeholderTextColor: Theme.ink2
     selectionColor: Theme.focus
@@ -31,6 +32,7 @@ T.TextField {
         text: root.placeholderText
         color: root.placeholderTextColor
         font: root.font
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
         Accessible.ignored: true

@@ -42,6 +42,7 @@ T.Switch {
     contentItem: Column {
         id: texts
 
+        leftPadding: root.mirrored ? 56 : 0
         topPadding: Math.max(0, (root.height - (name.implicitHeight + (detail.visible ? detail.implicitHeight : 0))) / 2)
 
         Label {

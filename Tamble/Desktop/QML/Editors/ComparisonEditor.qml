@@ -7,6 +7,10 @@ Item {
 
     property real share: 0.5
 
+    // Before stays at the left: the line moves where the pointer does.
+    LayoutMirroring.enabled: false
+    LayoutMirroring.childrenInherit: true
+
     Component.onCompleted: App.comparison.isActive = true
     Component.onDestruction: App.comparison.isActive = false
 
@@ -132,7 +136,7 @@ Item {
 
         Tag {
             anchors { left: parent.left; bottom: parent.bottom; margins: 14 }
-            visible: text && (!resultTag.visible || x + width < resultTag.x)
+            visible: text && (!resultTag.visible || x + width + 8 < resultTag.x)
             text: App.comparison.originalText
         }
         Tag {

@@ -16,12 +16,17 @@ Surface {
         height: 48
 
         Label {
-            anchors { left: parent.left; leftMargin: 16; verticalCenter: parent.verticalCenter }
+            anchors { left: parent.left; leftMargin: 16; right: order.left; rightMargin: Theme.space2; verticalCenter: parent.verticalCenter }
             kind: "caption"
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
             color: App.names.problemCount > 0 ? Theme.warn : Theme.ink2
             text: App.names.summary
         }
         Chooser {
+            id: order
+
             anchors { right: parent.right; rightMargin: 8; verticalCenter: parent.verticalCenter }
             implicitHeight: 32
             hint: qsTr("Order")
@@ -68,10 +73,10 @@ Surface {
                 color: row.problem ? Theme.tint("files") : hover.hovered ? Theme.hover : "transparent"
                 border { width: list.activeFocus && list.currentIndex === row.index ? 2 : 0; color: Theme.focus }
             }
-            Label { id: old; x: 16; y: 8; width: row.half; quiet: true; text: row.oldName; elide: Text.ElideMiddle; Accessible.ignored: true }
-            Sign { id: arrow; x: old.x + old.width + 6; y: 9; size: 16; name: "ui.forward"; visible: !row.isSame }
+            Label { id: old; anchors { left: parent.left; leftMargin: 16 } y: 8; width: row.half; quiet: true; text: row.oldName; elide: Text.ElideMiddle; Accessible.ignored: true }
+            Sign { id: arrow; anchors { left: old.right; leftMargin: 6 } y: 9; size: 16; name: "ui.forward"; visible: !row.isSame }
             Label {
-                x: old.x + old.width + 28
+                anchors { left: old.right; leftMargin: 28 }
                 y: 8
                 width: row.half
                 text: row.newName || "—"
@@ -81,7 +86,7 @@ Surface {
                 Accessible.ignored: true
             }
             Label {
-                x: old.x + old.width + 28
+                anchors { left: old.right; leftMargin: 28 }
                 y: 26
                 width: row.half
                 visible: text

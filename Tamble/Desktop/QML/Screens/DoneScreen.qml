@@ -37,6 +37,7 @@ Scroller {
             Mascot {
                 id: mascot
 
+                anchors.left: parent.left
                 size: root.width < 700 ? 96 : 128
                 expression: root.undone ? "waiting" : App.result.mood
                 content: root.undone ? "none" : "files"

@@ -23,6 +23,7 @@ Scroller {
             Mascot {
                 id: mascot
 
+                anchors.left: parent.left
                 size: 84
                 expression: App.intake.isBusy ? "working" : "happy"
                 content: "files"
@@ -33,7 +34,7 @@ Scroller {
                 spacing: 2
 
                 Label { width: parent.width; kind: "title"; text: App.intake.title; elide: Text.ElideRight }
-                Label { width: parent.width; kind: "strong"; font.weight: Font.Normal; quiet: true; text: App.intake.isBusy ? qsTr("Looking through it…") : App.intake.subtitle; elide: Text.ElideRight }
+                Label { width: parent.width; kind: "strong"; font.weight: Font.Normal; quiet: true; text: App.intake.isBusy ? qsTr("Looking through it…") : App.intake.subtitle; wrapMode: Text.Wrap; maximumLineCount: 2; elide: Text.ElideRight }
             }
             Row {
                 id: actions
@@ -60,7 +61,7 @@ Scroller {
             width: parent.width
             spacing: Theme.space3
 
-            Label { kind: "heading"; text: App.intake.best.count > 0 ? qsTr("What would you like to do?") : qsTr("No tool works with these yet") }
+            Label { width: parent.width; kind: "heading"; text: App.intake.best.count > 0 ? qsTr("What would you like to do?") : qsTr("No tool works with these yet") }
             ToolGrid { width: parent.width; model: App.intake.best; most: 2; large: true }
         }
         Column {
@@ -72,7 +73,7 @@ Scroller {
                 width: parent.width
                 height: others.height
 
-                Label { id: others; kind: "heading"; text: qsTr("Everything else that fits") }
+                Label { id: others; anchors.left: parent.left; kind: "heading"; text: qsTr("Everything else that fits") }
                 TextLink {
                     anchors { right: parent.right; verticalCenter: parent.verticalCenter }
                     text: qsTr("All %n tool(s)", "", App.toolCount)

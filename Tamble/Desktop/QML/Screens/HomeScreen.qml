@@ -26,7 +26,7 @@ Scroller {
                 width: parent.width
                 height: popular.height
 
-                Label { id: popular; kind: "heading"; text: qsTr("Popular") }
+                Label { id: popular; anchors.left: parent.left; kind: "heading"; text: qsTr("Popular") }
                 TextLink {
                     anchors { right: parent.right; verticalCenter: parent.verticalCenter }
                     text: qsTr("All %n tool(s)", "", App.toolCount)
@@ -44,7 +44,7 @@ Scroller {
                 width: parent.width
                 height: recent.height
 
-                Label { id: recent; kind: "heading"; text: qsTr("Recent") }
+                Label { id: recent; anchors.left: parent.left; kind: "heading"; text: qsTr("Recent") }
                 TextLink {
                     anchors { right: parent.right; verticalCenter: parent.verticalCenter }
                     visible: App.activity.count > 3

@@ -11,20 +11,21 @@ Scroller {
     Column {
         id: column
 
-        x: root.margin
+        x: LayoutMirroring.enabled ? root.width - width - root.margin : root.margin
         y: Math.min(28, root.margin)
         width: Math.min(760, root.width - 2 * root.margin)
         spacing: Theme.space5
 
         Header { width: parent.width; title: qsTr("Settings"); back: App.navigator.canGoBack }
 
-        Chip { visible: App.preferences.problem; text: App.preferences.problem }
+        Chip { anchors.left: parent.left; visible: App.preferences.problem; text: App.preferences.problem }
 
         SettingsGroup {
             width: parent.width
             heading: qsTr("Appearance")
 
             Segments {
+                anchors.left: parent.left
                 width: Math.min(parent.width, 360)
                 options: [{ "label": qsTr("System") }, { "label": qsTr("Light") }, { "label": qsTr("Dark") }]
                 current: App.preferences.appearance

@@ -72,6 +72,7 @@ Item {
         Column {
             id: sections
 
+            x: LayoutMirroring.enabled ? 12 : 0
             width: options.width - 12
             spacing: Theme.space4
 

@@ -39,7 +39,7 @@ Item {
             width: parent.width
             height: counts.height
 
-            Label { id: counts; quiet: true; text: App.job.counts }
+            Label { id: counts; anchors.left: parent.left; quiet: true; text: App.job.counts }
             Label { anchors.right: parent.right; quiet: true; text: App.job.timeLeft }
         }
         PushButton {
