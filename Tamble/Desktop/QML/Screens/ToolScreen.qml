@@ -10,7 +10,8 @@ Item {
     readonly property bool tight: width < 760
     readonly property bool hasFiles: App.tool.files.count > 0
     readonly property bool ofPages: App.tool.editor.startsWith("page")
-    // An editor shows pages of one document; for several, the pages are typed.
+    readonly property bool signs: App.tool.editor === "signature"
+    // An editor shows pages of one document; for several, the pages are typed, or one is chosen to be signed.
     readonly property bool edits: hasFiles && App.tool.editor !== "none" && (!ofPages || App.tool.files.count === 1)
 
     Header {
@@ -48,7 +49,7 @@ Item {
             id: files
 
             anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-            visible: root.hasFiles && App.tool.editor !== "names" && !(root.edits && root.ofPages)
+            visible: root.hasFiles && App.tool.editor !== "names" && !(root.edits && (root.ofPages || root.signs))
             height: !visible ? 0 : editor.active ? 62 : parent.height
             grid: !editor.active
         }
@@ -67,12 +68,6 @@ Item {
             width: options.width - 12
             spacing: Theme.space4
 
-            Loader {
-                width: parent.width
-                active: root.edits && root.ofPages
-                visible: active
-                source: "PageTools.qml"
-            }
             Repeater {
                 model: App.tool.panel
 
@@ -82,6 +77,12 @@ Item {
                     panel: App.tool.panel
                     visible: !(root.edits && root.ofPages && control === "text")
                 }
+            }
+            Loader {
+                width: parent.width
+                active: root.edits && (root.ofPages || root.signs) && App.tool.files.count === 1
+                visible: active
+                source: root.signs ? "SignatureTools.qml" : "PageTools.qml"
             }
         }
     }
