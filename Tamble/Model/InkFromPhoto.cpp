@@ -13,6 +13,10 @@ constexpr int squares = 16;
 /// paper's light.
 constexpr double faint = 0.16;
 constexpr double strong = 0.45;
+/// Of the lightest place, what the darkest shade on the paper still has.
+constexpr double darkestShade = 0.35;
+/// 0…255; what is darker everywhere shows no paper.
+constexpr double darkestPaper = 60;
 /// Alpha from which a sample counts as written.
 constexpr int visible = 40;
 
@@ -39,7 +43,11 @@ class Paper {
             for (int column = 0; column < columns_; ++column)
                 lights_.push_back(brightest(photo, column * side_, row * side_));
         }
+        // A square may be full of ink.
+        for (double& square : lights_) square = std::max(square, whitest() * darkestShade);
     }
+
+    double whitest() const { return *std::ranges::max_element(lights_); }
 
     /// Between the middles of the squares.
     double at(int x, int y) const {
@@ -66,7 +74,7 @@ class Paper {
         }
         const auto place = lights.begin() + static_cast<std::ptrdiff_t>(lights.size() * 9 / 10);
         std::ranges::nth_element(lights, place);
-        return std::max(1.0, *place);
+        return *place;
     }
 
     int side_;
@@ -75,8 +83,7 @@ class Paper {
     std::vector<double> lights_;
 };
 
-PreviewPicture withoutPaper(const PreviewPicture& photo) {
-    const Paper paper(photo);
+PreviewPicture withoutPaper(const PreviewPicture& photo, const Paper& paper) {
     PreviewPicture ink{photo.width, photo.height, 4, {}};
     ink.samples.reserve(static_cast<std::size_t>(photo.width) * static_cast<std::size_t>(photo.height) * 4);
     for (int y = 0; y < photo.height; ++y) {
@@ -133,7 +140,9 @@ std::optional<PreviewPicture> cut(const PreviewPicture& ink) {
 
 std::optional<PreviewPicture> inkFromPhoto(const PreviewPicture& photo) {
     if (photo.width <= 0 || photo.height <= 0) return std::nullopt;
-    return cut(isSeeThrough(photo) ? photo : withoutPaper(photo));
+    if (isSeeThrough(photo)) return cut(photo);
+    const Paper paper(photo);
+    return paper.whitest() < darkestPaper ? std::nullopt : cut(withoutPaper(photo, paper));
 }
 
 }  // namespace tamble

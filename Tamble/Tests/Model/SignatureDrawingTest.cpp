@@ -140,6 +140,10 @@ TEST(InkFromPhotoTest, PaperGoesHoweverUnevenlyItIsLit) {
     }
     const std::size_t middle = (4U * 202 + 100) * 4;
     EXPECT_GT(ink->samples[middle + 2], ink->samples[middle] + 40) << "blue ink stays blue";
+    fill(photo, 60, 50, 130, 120, {20, 30, 90, 0});
+    const auto blot = inkFromPhoto(photo);
+    ASSERT_TRUE(blot);
+    EXPECT_EQ(blot->samples[(40U * 202 + 40) * 4 + 3], 255) << "a blot is not taken for paper";
     EXPECT_FALSE(inkFromPhoto({}));
     EXPECT_FALSE(inkFromPhoto({1, 1, 3, {0, 0, 0}}));
 }
