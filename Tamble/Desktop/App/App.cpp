@@ -22,6 +22,8 @@ App::App(QObject* parent)
       names_(tool_),
       document_(tool_, pictures_),
       pages_(tool_, document_),
+      signature_(tool_, document_),
+      ink_(pictures_),
       job_(workers_),
       preferencesModel_(preferences_) {
     instance_ = this;
@@ -34,6 +36,7 @@ App::App(QObject* parent)
     });
     connect(&activity_, &ActivityModel::showRequested, this,
             [](const std::vector<std::filesystem::path>& files) { desktop::showInFolder(files); });
+    connectSignatures();
     refreshPopular();
 }
 
@@ -170,6 +173,17 @@ void App::quitAfterJob() {
     quitsAfterJob_ = true;
     job_.cancel();
     if (!job_.isRunning()) QCoreApplication::quit();
+}
+
+void App::connectSignatures() {
+    connect(&ink_, &InkModel::made, this,
+            [this](const std::vector<std::byte>& png, const std::vector<InkStroke>& strokes) {
+                signature_.place(png);
+                if (ink_.keeps()) savedSignatures_.add(png, strokes);
+            });
+    connect(&savedSignatures_, &SavedSignaturesModel::chosen, &signature_, &SignatureModel::place);
+    connect(&savedSignatures_, &SavedSignaturesModel::failed, this, &App::said);
+    connect(&ink_, &InkModel::failed, this, &App::said);
 }
 
 void App::showPlace() {

@@ -4,6 +4,7 @@
 #include <Tamble/Desktop/Models/ActivityModel.h>
 #include <Tamble/Desktop/Models/ComparisonModel.h>
 #include <Tamble/Desktop/Models/DocumentModel.h>
+#include <Tamble/Desktop/Models/InkModel.h>
 #include <Tamble/Desktop/Models/IntakeModel.h>
 #include <Tamble/Desktop/Models/JobModel.h>
 #include <Tamble/Desktop/Models/NamesModel.h>
@@ -11,7 +12,9 @@
 #include <Tamble/Desktop/Models/PagesModel.h>
 #include <Tamble/Desktop/Models/PreferencesModel.h>
 #include <Tamble/Desktop/Models/ResultModel.h>
+#include <Tamble/Desktop/Models/SavedSignaturesModel.h>
 #include <Tamble/Desktop/Models/SearchModel.h>
+#include <Tamble/Desktop/Models/SignatureModel.h>
 #include <Tamble/Desktop/Models/ToolModel.h>
 #include <Tamble/Desktop/Pictures/FilePictures.h>
 
@@ -32,6 +35,9 @@ class App : public QObject {
     Q_PROPERTY(tamble::NamesModel* names READ names CONSTANT)
     Q_PROPERTY(tamble::DocumentModel* document READ document CONSTANT)
     Q_PROPERTY(tamble::PagesModel* pages READ pages CONSTANT)
+    Q_PROPERTY(tamble::SignatureModel* signature READ signature CONSTANT)
+    Q_PROPERTY(tamble::SavedSignaturesModel* savedSignatures READ savedSignatures CONSTANT)
+    Q_PROPERTY(tamble::InkModel* ink READ ink CONSTANT)
     Q_PROPERTY(tamble::JobModel* job READ job CONSTANT)
     Q_PROPERTY(tamble::ResultModel* result READ result CONSTANT)
     Q_PROPERTY(tamble::ActivityModel* activity READ activity CONSTANT)
@@ -63,6 +69,9 @@ class App : public QObject {
     NamesModel* names() { return &names_; }
     DocumentModel* document() { return &document_; }
     PagesModel* pages() { return &pages_; }
+    SignatureModel* signature() { return &signature_; }
+    SavedSignaturesModel* savedSignatures() { return &savedSignatures_; }
+    InkModel* ink() { return &ink_; }
     JobModel* job() { return &job_; }
     ResultModel* result() { return &result_; }
     ActivityModel* activity() { return &activity_; }
@@ -101,6 +110,7 @@ class App : public QObject {
   private:
     void found(const std::vector<InputFile>& files);
     void finished(const std::shared_ptr<FinishedJob>& job);
+    void connectSignatures();
     void showPlace();
     void refreshPopular();
 
@@ -117,6 +127,9 @@ class App : public QObject {
     NamesModel names_;
     DocumentModel document_;
     PagesModel pages_;
+    SignatureModel signature_;
+    SavedSignaturesModel savedSignatures_;
+    InkModel ink_;
     JobModel job_;
     ResultModel result_;
     ActivityModel activity_;

@@ -10,8 +10,9 @@ Item {
     readonly property bool tight: width < 760
     readonly property bool hasFiles: App.tool.files.count > 0
     readonly property bool ofPages: App.tool.editor.startsWith("page")
-    // An editor shows pages of one document; for several, the pages are typed.
+    readonly property bool signs: App.tool.editor === "signature"
     property bool lists: false // all files in place of the editor
+    // An editor shows pages of one document; for several, the pages are typed, or one is chosen to be signed.
     readonly property bool edits: hasFiles && !lists && App.tool.editor !== "none" && (!ofPages || App.tool.files.count === 1)
 
     Header {
@@ -56,7 +57,7 @@ Item {
             id: files
 
             anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-            visible: root.hasFiles && App.tool.editor !== "names" && !(root.edits && root.ofPages)
+            visible: root.hasFiles && App.tool.editor !== "names" && !(root.edits && (root.ofPages || root.signs))
             height: !visible ? 0 : editor.active ? 62 : parent.height
             grid: !editor.active
         }
@@ -76,12 +77,6 @@ Item {
             width: options.width - 12
             spacing: Theme.space4
 
-            Loader {
-                width: parent.width
-                active: root.edits && root.ofPages
-                visible: active
-                source: "PageTools.qml"
-            }
             Repeater {
                 model: App.tool.panel
 
@@ -91,6 +86,12 @@ Item {
                     panel: App.tool.panel
                     visible: !(root.edits && root.ofPages && control === "text")
                 }
+            }
+            Loader {
+                width: parent.width
+                active: root.edits && (root.ofPages || root.signs) && App.tool.files.count === 1
+                visible: active
+                source: root.signs ? "SignatureTools.qml" : "PageTools.qml"
             }
         }
     }
