@@ -187,6 +187,9 @@ void App::connectSignatures() {
 }
 
 void App::showPlace() {
+    // A job may have renamed or replaced what was dropped.
+    if (navigator_.screen() == Navigator::Tool) tool_.removeGone();
+    if (navigator_.screen() == Navigator::Drop) intake_.removeGone();
     if (navigator_.screen() != Navigator::Category) return;
     std::vector<ToolListModel::Entry> entries;
     for (const ToolInfo& tool : ToolCatalog::all()) {

@@ -2,9 +2,11 @@
 #include <Tamble/Desktop/Support/Background.h>
 #include <Tamble/Desktop/Support/Texts.h>
 #include <Tamble/Model/FittingTools.h>
+#include <Tamble/Model/GoneFiles.h>
 
 #include <TambleCore/Intake/FolderScanner.h>
 
+#include <algorithm>
 #include <unordered_set>
 
 namespace tamble {
@@ -96,6 +98,19 @@ void IntakeModel::replace(std::vector<InputFile> files) {
     clear();
     scan_.files = std::move(files);
     scan_.looseFileCount = static_cast<int>(scan_.files.size());
+    describe();
+    emit changed();
+}
+
+void IntakeModel::removeGone() {
+    const auto gone = goneFiles(scan_.files);
+    if (gone.empty()) return;
+    std::vector<InputFile> kept;
+    for (std::size_t i = 0; i < scan_.files.size(); ++i) {
+        if (!std::ranges::binary_search(gone, i)) kept.push_back(std::move(scan_.files[i]));
+    }
+    scan_.files = std::move(kept);
+    scan_.looseFileCount = static_cast<int>(std::ranges::count_if(scan_.files, &InputFile::isLoose));
     describe();
     emit changed();
 }

@@ -43,6 +43,8 @@ class IntakeModel : public QObject {
     void add(std::vector<std::filesystem::path> paths);
     /// Files that are known already take the place of what is there.
     void replace(std::vector<InputFile> files);
+    /// Leaves out files that are gone by now.
+    void removeGone();
     Q_INVOKABLE void clear();
 
     /// What a drag that holds these will bring, while it is over the window: "3 items".

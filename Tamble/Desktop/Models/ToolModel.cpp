@@ -2,6 +2,7 @@
 #include <Tamble/Desktop/Models/ToolModel.h>
 #include <Tamble/Desktop/Support/StartText.h>
 #include <Tamble/Desktop/Support/Texts.h>
+#include <Tamble/Model/GoneFiles.h>
 
 #include <TambleCore/Support/Json/Described.h>
 
@@ -42,6 +43,15 @@ void ToolModel::add(std::span<const InputFile> files) {
     const std::size_t taken = session_->add(files);
     setNotice(taken > 0 || files.empty() ? QString()
                                          : tr("None of these files is of a kind that this tool works with."));
+    files_.refresh();
+    filesChanged();
+}
+
+void ToolModel::removeGone() {
+    if (!isOpen()) return;
+    const auto gone = goneFiles(session_->files());
+    if (gone.empty()) return;
+    session_->remove(gone);
     files_.refresh();
     filesChanged();
 }

@@ -37,6 +37,8 @@ class ToolModel : public QObject {
     /// Opens the tool with those of the files that it works with.
     void open(const ToolInfo& tool, std::span<const InputFile> files);
     void add(std::span<const InputFile> files);
+    /// Leaves out files that are gone by now.
+    void removeGone();
     /// Forgets the files and what was worked out about them.
     void close();
     /// Null when none is open.

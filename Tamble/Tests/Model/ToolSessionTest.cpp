@@ -1,5 +1,9 @@
+#include <Tamble/Model/GoneFiles.h>
 #include <Tamble/Model/ToolSession.h>
 
+#include <fstream>
+
+#include <TambleCoreTests/TemporaryFolder.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -54,6 +58,18 @@ TEST(ToolSession, SortsMovesAndRemovesWithoutLosingTheDroppedOrder) {
     EXPECT_THAT(names(session), ElementsAre("10.jpg", "2.png", "new.gif"));
     session.removeAll();
     EXPECT_THAT(names(session), IsEmpty());
+}
+
+TEST(GoneFiles, AreThoseWithoutAnythingAtTheirPath) {
+    const TemporaryFolder folder;
+    const auto path = [&folder](const char* name) { return FilePath(folder.path() / name); };
+    std::ofstream(path("there.jpg").path()) << "x";
+    std::filesystem::create_symlink("nowhere", path("dangling link").path());
+    const std::vector<InputFile> files{{.url = path("gone.jpg")},
+                                       {.url = path("there.jpg")},
+                                       {.url = path("dangling link")},
+                                       {.url = path("gone folder/a.jpg")}};
+    EXPECT_THAT(goneFiles(files), ElementsAre(0, 3));
 }
 
 TEST(ToolSession, KnowsWhatKindOfToolItIs) {
