@@ -2759,6 +2759,17 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     </message>
 </context>
 <context>
+    <name>tamble::Forecast</name>
+    <message>
+        <source>%1 → estimating…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 → about %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tamble::IntakeModel</name>
     <message>
         <source>That isn&apos;t a file on this computer.</source>
@@ -3020,14 +3031,6 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     <message>
         <source>None of these files is of a kind that this tool works with.</source>
         <translation>Mit keiner dieser Dateien kann dieses Werkzeug arbeiten.</translation>
-    </message>
-    <message>
-        <source>%1 → estimating…</source>
-        <translation>%1 → wird geschätzt…</translation>
-    </message>
-    <message>
-        <source>%1 → about %2</source>
-        <translation>%1 → etwa %2</translation>
     </message>
 </context>
 </TS>

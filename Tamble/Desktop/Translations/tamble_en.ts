@@ -2759,6 +2759,17 @@ Works best when the subject stands out clearly from the background.</translation
     </message>
 </context>
 <context>
+    <name>tamble::Forecast</name>
+    <message>
+        <source>%1 → estimating…</source>
+        <translation>%1 → estimating…</translation>
+    </message>
+    <message>
+        <source>%1 → about %2</source>
+        <translation>%1 → about %2</translation>
+    </message>
+</context>
+<context>
     <name>tamble::IntakeModel</name>
     <message>
         <source>That isn&apos;t a file on this computer.</source>
@@ -3020,14 +3031,6 @@ Works best when the subject stands out clearly from the background.</translation
     <message>
         <source>None of these files is of a kind that this tool works with.</source>
         <translation>None of these files is of a kind that this tool works with.</translation>
-    </message>
-    <message>
-        <source>%1 → estimating…</source>
-        <translation>%1 → estimating…</translation>
-    </message>
-    <message>
-        <source>%1 → about %2</source>
-        <translation>%1 → about %2</translation>
     </message>
 </context>
 </TS>
