@@ -2762,11 +2762,11 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     <name>tamble::Forecast</name>
     <message>
         <source>%1 → estimating…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 → wird geschätzt…</translation>
     </message>
     <message>
         <source>%1 → about %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 → etwa %2</translation>
     </message>
 </context>
 <context>
