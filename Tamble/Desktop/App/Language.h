@@ -11,6 +11,7 @@ class Language {
     explicit Language(const QLocale& locale);
 
   private:
+    QTranslator qt_;
     QTranslator english_;
     QTranslator own_;
 };

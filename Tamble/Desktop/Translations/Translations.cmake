@@ -1,6 +1,6 @@
 # The languages of the window: tables that are compiled into it under :/i18n. Included by the window's own list.
 set(translations ${CMAKE_CURRENT_SOURCE_DIR}/Translations)
-set(tables ${translations}/tamble_en.ts ${translations}/tamble_de.ts)
+file(GLOB tables CONFIGURE_DEPENDS ${translations}/tamble_*.ts)
 set_source_files_properties(${tables} PROPERTIES OUTPUT_LOCATION i18n)
 qt_add_lrelease(TambleDesktop TS_FILES ${tables} OPTIONS -silent QM_FILES_OUTPUT_VARIABLE compiled_tables)
 qt_add_resources(TambleDesktop tamble_translations

@@ -3,6 +3,8 @@
 cmake_minimum_required(VERSION 3.25)
 set(desktop ${SOURCE}/Tamble/Desktop)
 set(committed ${desktop}/Translations)
+file(GLOB languages RELATIVE ${committed} ${committed}/tamble_*.ts)
+list(TRANSFORM languages REPLACE "tamble_(.*)\\.ts" "\\1")
 set(trouble "")
 
 if(NOT EXISTS ${LUPDATE})
@@ -13,7 +15,7 @@ endif()
 if(CHECK)
     file(REMOVE_RECURSE ${CHECK})
     file(MAKE_DIRECTORY ${CHECK})
-    file(COPY ${committed}/tamble_en.ts ${committed}/tamble_de.ts DESTINATION ${CHECK})
+    file(COPY ${committed}/ DESTINATION ${CHECK} FILES_MATCHING PATTERN "*.ts" PATTERN EngineTexts EXCLUDE)
     set(tables ${CHECK})
     set(keys ${CHECK}/EngineKeys.h)
 else()
@@ -30,7 +32,7 @@ if(CHECK)
     endif()
 endif()
 
-foreach(language en de)
+foreach(language IN LISTS languages)
     set(table ${tables}/tamble_${language}.ts)
     execute_process(
         COMMAND ${LUPDATE} -silent -recursive Tamble/Desktop -extensions cpp,h,qml -I . -locations none -no-obsolete

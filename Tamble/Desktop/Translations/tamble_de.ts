@@ -2062,6 +2062,21 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     </message>
 </context>
 <context>
+    <name>OneDocument</name>
+    <message>
+        <source>Which PDF would you like to sign?</source>
+        <translation>Welche PDF möchtest du unterschreiben?</translation>
+    </message>
+    <message>
+        <source>One is signed at a time. The others stay as they are.</source>
+        <translation>Es wird immer nur eine unterschrieben. Die anderen bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Sign %1</source>
+        <translation>%1 unterschreiben</translation>
+    </message>
+</context>
+<context>
     <name>PageCell</name>
     <message>
         <source>Page %1</source>
@@ -2178,6 +2193,49 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     </message>
 </context>
 <context>
+    <name>SaveChoices</name>
+    <message>
+        <source>Rename the files</source>
+        <translation>Dateien umbenennen</translation>
+    </message>
+    <message>
+        <source>Make renamed copies</source>
+        <translation>Umbenannte Kopien</translation>
+    </message>
+    <message>
+        <source>Next to each original</source>
+        <translation>Neben dem Original</translation>
+    </message>
+    <message>
+        <source>In one folder</source>
+        <translation>In einem Ordner</translation>
+    </message>
+    <message>
+        <source>In place of originals</source>
+        <translation>Statt der Originale</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>If the name is taken</source>
+        <translation>Falls es den Namen schon gibt</translation>
+    </message>
+    <message>
+        <source>Add a number</source>
+        <translation>Nummer anhängen</translation>
+    </message>
+    <message>
+        <source>Skip the file</source>
+        <translation>Datei auslassen</translation>
+    </message>
+    <message>
+        <source>Replace the old one</source>
+        <translation>Alte ersetzen</translation>
+    </message>
+</context>
+<context>
     <name>SaveDefaultsForm</name>
     <message>
         <source>Next to each original</source>
@@ -2222,46 +2280,6 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
 </context>
 <context>
     <name>SaveFooter</name>
-    <message>
-        <source>Rename the files</source>
-        <translation>Dateien umbenennen</translation>
-    </message>
-    <message>
-        <source>Make renamed copies</source>
-        <translation>Umbenannte Kopien</translation>
-    </message>
-    <message>
-        <source>Next to each original</source>
-        <translation>Neben dem Original</translation>
-    </message>
-    <message>
-        <source>In one folder</source>
-        <translation>In einem Ordner</translation>
-    </message>
-    <message>
-        <source>In place of originals</source>
-        <translation>Statt der Originale</translation>
-    </message>
-    <message>
-        <source>Choose a folder</source>
-        <translation>Ordner wählen</translation>
-    </message>
-    <message>
-        <source>If the name is taken</source>
-        <translation>Falls es den Namen schon gibt</translation>
-    </message>
-    <message>
-        <source>Add a number</source>
-        <translation>Nummer anhängen</translation>
-    </message>
-    <message>
-        <source>Skip the file</source>
-        <translation>Datei auslassen</translation>
-    </message>
-    <message>
-        <source>Replace the old one</source>
-        <translation>Alte ersetzen</translation>
-    </message>
     <message>
         <source>%1 · The originals go to the Bin.</source>
         <translation>%1 · Die Originale kommen in den Papierkorb.</translation>
@@ -2399,6 +2417,127 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>SignatureEditor</name>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Seite %1</translation>
+    </message>
+</context>
+<context>
+    <name>SignaturePage</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Arrows move the signature, plus and minus size it, Delete removes it.</source>
+        <translation>Pfeile verschieben die Unterschrift, Plus und Minus ändern ihre Größe, Entf nimmt sie weg.</translation>
+    </message>
+    <message>
+        <source>Signature</source>
+        <translation>Unterschrift</translation>
+    </message>
+    <message>
+        <source>Remove the signature</source>
+        <translation>Unterschrift wegnehmen</translation>
+    </message>
+</context>
+<context>
+    <name>SignatureTools</name>
+    <message>
+        <source>Black ink</source>
+        <translation>Schwarze Tinte</translation>
+    </message>
+    <message>
+        <source>Blue ink</source>
+        <translation>Blaue Tinte</translation>
+    </message>
+    <message>
+        <source>Reading the picture…</source>
+        <translation>Bild wird gelesen…</translation>
+    </message>
+    <message>
+        <source>Draw here</source>
+        <translation>Hier zeichnen</translation>
+    </message>
+    <message>
+        <source>Drawing area for your signature</source>
+        <translation>Zeichenfläche für deine Unterschrift</translation>
+    </message>
+    <message>
+        <source>Undo the last stroke</source>
+        <translation>Letzten Strich zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Put it on the page</source>
+        <translation>Auf die Seite setzen</translation>
+    </message>
+    <message>
+        <source>From a picture…</source>
+        <translation>Aus einem Bild…</translation>
+    </message>
+    <message>
+        <source>Keep for next time</source>
+        <translation>Für das nächste Mal behalten</translation>
+    </message>
+    <message>
+        <source>Stays on this computer.</source>
+        <translation>Bleibt auf diesem Computer.</translation>
+    </message>
+    <message>
+        <source>Your signatures</source>
+        <translation>Deine Unterschriften</translation>
+    </message>
+    <message>
+        <source>Signature %1</source>
+        <translation>Unterschrift %1</translation>
+    </message>
+    <message>
+        <source>Puts it on the page. Delete forgets it.</source>
+        <translation>Setzt sie auf die Seite. Entf vergisst sie.</translation>
+    </message>
+    <message>
+        <source>Delete this signature</source>
+        <translation>Diese Unterschrift löschen</translation>
+    </message>
+    <message>
+        <source>Delete this signature?</source>
+        <translation>Diese Unterschrift löschen?</translation>
+    </message>
+    <message>
+        <source>It is gone for good. PDFs that are signed with it stay as they are.</source>
+        <translation>Sie ist dann endgültig weg. PDFs, die damit unterschrieben sind, bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Delete it</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Behalten</translation>
     </message>
 </context>
 <context>
@@ -2759,6 +2898,24 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     </message>
 </context>
 <context>
+    <name>tamble::Forecast</name>
+    <message>
+        <source>%1 → estimating…</source>
+        <translation>%1 → wird geschätzt…</translation>
+    </message>
+    <message>
+        <source>%1 → about %2</source>
+        <translation>%1 → etwa %2</translation>
+    </message>
+</context>
+<context>
+    <name>tamble::InkModel</name>
+    <message>
+        <source>There is no writing to be seen in this picture.</source>
+        <translation>In diesem Bild ist keine Schrift zu sehen.</translation>
+    </message>
+</context>
+<context>
     <name>tamble::IntakeModel</name>
     <message>
         <source>That isn&apos;t a file on this computer.</source>
@@ -3016,18 +3173,38 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     </message>
 </context>
 <context>
+    <name>tamble::SavedSignaturesModel</name>
+    <message numerus="yes">
+        <source>This signature isn&apos;t kept for next time: %n are kept already.</source>
+        <translation>
+            <numerusform>Diese Unterschrift wird nicht fürs nächste Mal behalten: %Ln ist schon da.</numerusform>
+            <numerusform>Diese Unterschrift wird nicht fürs nächste Mal behalten: %Ln sind schon da.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This signature couldn&apos;t be kept for next time.</source>
+        <translation>Diese Unterschrift ließ sich nicht fürs nächste Mal behalten.</translation>
+    </message>
+    <message>
+        <source>This signature couldn&apos;t be deleted.</source>
+        <translation>Diese Unterschrift ließ sich nicht löschen.</translation>
+    </message>
+</context>
+<context>
+    <name>tamble::SignatureModel</name>
+    <message numerus="yes">
+        <source>%n signature(s)</source>
+        <translation>
+            <numerusform>%Ln Unterschrift</numerusform>
+            <numerusform>%Ln Unterschriften</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tamble::ToolModel</name>
     <message>
         <source>None of these files is of a kind that this tool works with.</source>
         <translation>Mit keiner dieser Dateien kann dieses Werkzeug arbeiten.</translation>
-    </message>
-    <message>
-        <source>%1 → estimating…</source>
-        <translation>%1 → wird geschätzt…</translation>
-    </message>
-    <message>
-        <source>%1 → about %2</source>
-        <translation>%1 → etwa %2</translation>
     </message>
 </context>
 </TS>

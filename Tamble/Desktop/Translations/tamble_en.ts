@@ -2062,6 +2062,21 @@ Works best when the subject stands out clearly from the background.</translation
     </message>
 </context>
 <context>
+    <name>OneDocument</name>
+    <message>
+        <source>Which PDF would you like to sign?</source>
+        <translation>Which PDF would you like to sign?</translation>
+    </message>
+    <message>
+        <source>One is signed at a time. The others stay as they are.</source>
+        <translation>One is signed at a time. The others stay as they are.</translation>
+    </message>
+    <message>
+        <source>Sign %1</source>
+        <translation>Sign %1</translation>
+    </message>
+</context>
+<context>
     <name>PageCell</name>
     <message>
         <source>Page %1</source>
@@ -2178,6 +2193,49 @@ Works best when the subject stands out clearly from the background.</translation
     </message>
 </context>
 <context>
+    <name>SaveChoices</name>
+    <message>
+        <source>Rename the files</source>
+        <translation>Rename the files</translation>
+    </message>
+    <message>
+        <source>Make renamed copies</source>
+        <translation>Make renamed copies</translation>
+    </message>
+    <message>
+        <source>Next to each original</source>
+        <translation>Next to each original</translation>
+    </message>
+    <message>
+        <source>In one folder</source>
+        <translation>In one folder</translation>
+    </message>
+    <message>
+        <source>In place of originals</source>
+        <translation>In place of originals</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Choose a folder</translation>
+    </message>
+    <message>
+        <source>If the name is taken</source>
+        <translation>If the name is taken</translation>
+    </message>
+    <message>
+        <source>Add a number</source>
+        <translation>Add a number</translation>
+    </message>
+    <message>
+        <source>Skip the file</source>
+        <translation>Skip the file</translation>
+    </message>
+    <message>
+        <source>Replace the old one</source>
+        <translation>Replace the old one</translation>
+    </message>
+</context>
+<context>
     <name>SaveDefaultsForm</name>
     <message>
         <source>Next to each original</source>
@@ -2222,46 +2280,6 @@ Works best when the subject stands out clearly from the background.</translation
 </context>
 <context>
     <name>SaveFooter</name>
-    <message>
-        <source>Rename the files</source>
-        <translation>Rename the files</translation>
-    </message>
-    <message>
-        <source>Make renamed copies</source>
-        <translation>Make renamed copies</translation>
-    </message>
-    <message>
-        <source>Next to each original</source>
-        <translation>Next to each original</translation>
-    </message>
-    <message>
-        <source>In one folder</source>
-        <translation>In one folder</translation>
-    </message>
-    <message>
-        <source>In place of originals</source>
-        <translation>In place of originals</translation>
-    </message>
-    <message>
-        <source>Choose a folder</source>
-        <translation>Choose a folder</translation>
-    </message>
-    <message>
-        <source>If the name is taken</source>
-        <translation>If the name is taken</translation>
-    </message>
-    <message>
-        <source>Add a number</source>
-        <translation>Add a number</translation>
-    </message>
-    <message>
-        <source>Skip the file</source>
-        <translation>Skip the file</translation>
-    </message>
-    <message>
-        <source>Replace the old one</source>
-        <translation>Replace the old one</translation>
-    </message>
     <message>
         <source>%1 · The originals go to the Bin.</source>
         <translation>%1 · The originals go to the Bin.</translation>
@@ -2399,6 +2417,127 @@ Works best when the subject stands out clearly from the background.</translation
     <message>
         <source>Settings</source>
         <translation>Settings</translation>
+    </message>
+</context>
+<context>
+    <name>SignatureEditor</name>
+    <message>
+        <source>Previous page</source>
+        <translation>Previous page</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Next page</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Page %1</translation>
+    </message>
+</context>
+<context>
+    <name>SignaturePage</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message>
+        <source>Arrows move the signature, plus and minus size it, Delete removes it.</source>
+        <translation>Arrows move the signature, plus and minus size it, Delete removes it.</translation>
+    </message>
+    <message>
+        <source>Signature</source>
+        <translation>Signature</translation>
+    </message>
+    <message>
+        <source>Remove the signature</source>
+        <translation>Remove the signature</translation>
+    </message>
+</context>
+<context>
+    <name>SignatureTools</name>
+    <message>
+        <source>Black ink</source>
+        <translation>Black ink</translation>
+    </message>
+    <message>
+        <source>Blue ink</source>
+        <translation>Blue ink</translation>
+    </message>
+    <message>
+        <source>Reading the picture…</source>
+        <translation>Reading the picture…</translation>
+    </message>
+    <message>
+        <source>Draw here</source>
+        <translation>Draw here</translation>
+    </message>
+    <message>
+        <source>Drawing area for your signature</source>
+        <translation>Drawing area for your signature</translation>
+    </message>
+    <message>
+        <source>Undo the last stroke</source>
+        <translation>Undo the last stroke</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>Put it on the page</source>
+        <translation>Put it on the page</translation>
+    </message>
+    <message>
+        <source>From a picture…</source>
+        <translation>From a picture…</translation>
+    </message>
+    <message>
+        <source>Keep for next time</source>
+        <translation>Keep for next time</translation>
+    </message>
+    <message>
+        <source>Stays on this computer.</source>
+        <translation>Stays on this computer.</translation>
+    </message>
+    <message>
+        <source>Your signatures</source>
+        <translation>Your signatures</translation>
+    </message>
+    <message>
+        <source>Signature %1</source>
+        <translation>Signature %1</translation>
+    </message>
+    <message>
+        <source>Puts it on the page. Delete forgets it.</source>
+        <translation>Puts it on the page. Delete forgets it.</translation>
+    </message>
+    <message>
+        <source>Delete this signature</source>
+        <translation>Delete this signature</translation>
+    </message>
+    <message>
+        <source>Delete this signature?</source>
+        <translation>Delete this signature?</translation>
+    </message>
+    <message>
+        <source>It is gone for good. PDFs that are signed with it stay as they are.</source>
+        <translation>It is gone for good. PDFs that are signed with it stay as they are.</translation>
+    </message>
+    <message>
+        <source>Delete it</source>
+        <translation>Delete it</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Keep it</translation>
     </message>
 </context>
 <context>
@@ -2759,6 +2898,24 @@ Works best when the subject stands out clearly from the background.</translation
     </message>
 </context>
 <context>
+    <name>tamble::Forecast</name>
+    <message>
+        <source>%1 → estimating…</source>
+        <translation>%1 → estimating…</translation>
+    </message>
+    <message>
+        <source>%1 → about %2</source>
+        <translation>%1 → about %2</translation>
+    </message>
+</context>
+<context>
+    <name>tamble::InkModel</name>
+    <message>
+        <source>There is no writing to be seen in this picture.</source>
+        <translation>There is no writing to be seen in this picture.</translation>
+    </message>
+</context>
+<context>
     <name>tamble::IntakeModel</name>
     <message>
         <source>That isn&apos;t a file on this computer.</source>
@@ -3016,18 +3173,38 @@ Works best when the subject stands out clearly from the background.</translation
     </message>
 </context>
 <context>
+    <name>tamble::SavedSignaturesModel</name>
+    <message numerus="yes">
+        <source>This signature isn&apos;t kept for next time: %n are kept already.</source>
+        <translation>
+            <numerusform>This signature isn&apos;t kept for next time: %Ln is kept already.</numerusform>
+            <numerusform>This signature isn&apos;t kept for next time: %Ln are kept already.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This signature couldn&apos;t be kept for next time.</source>
+        <translation>This signature couldn&apos;t be kept for next time.</translation>
+    </message>
+    <message>
+        <source>This signature couldn&apos;t be deleted.</source>
+        <translation>This signature couldn&apos;t be deleted.</translation>
+    </message>
+</context>
+<context>
+    <name>tamble::SignatureModel</name>
+    <message numerus="yes">
+        <source>%n signature(s)</source>
+        <translation>
+            <numerusform>%Ln signature</numerusform>
+            <numerusform>%Ln signatures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tamble::ToolModel</name>
     <message>
         <source>None of these files is of a kind that this tool works with.</source>
         <translation>None of these files is of a kind that this tool works with.</translation>
-    </message>
-    <message>
-        <source>%1 → estimating…</source>
-        <translation>%1 → estimating…</translation>
-    </message>
-    <message>
-        <source>%1 → about %2</source>
-        <translation>%1 → about %2</translation>
     </message>
 </context>
 </TS>

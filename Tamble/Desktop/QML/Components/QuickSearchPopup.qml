@@ -17,6 +17,7 @@ T.Popup {
     onAboutToShow: {
         field.text = ""
         App.search.query = ""
+        list.pointer = Qt.point(-1, -1)
         field.forceActiveFocus()
     }
 
@@ -64,6 +65,9 @@ T.Popup {
             clip: true
             T.ScrollBar.vertical: ScrollLine {}
 
+            // Rows that come under a pointer at rest are not meant.
+            property point pointer: Qt.point(-1, -1)
+
             delegate: T.ItemDelegate {
                 id: row
 
@@ -83,7 +87,16 @@ T.Popup {
                 Accessible.name: title
                 Accessible.description: subtitle
                 onClicked: root.start(index)
-                onHoveredChanged: if (hovered) list.currentIndex = index
+
+                HoverHandler {
+                    onPointChanged: {
+                        const at = point.scenePosition
+                        const moved = list.pointer.x >= 0 && (at.x !== list.pointer.x || at.y !== list.pointer.y)
+                        if (hovered && moved)
+                            list.currentIndex = row.index
+                        list.pointer = at
+                    }
+                }
 
                 contentItem: Item {
                     Tile { id: tile; anchors { left: parent.left; leftMargin: 8; verticalCenter: parent.verticalCenter } size: 36; symbol: row.symbol; category: row.category }
