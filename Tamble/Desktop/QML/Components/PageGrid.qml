@@ -169,7 +169,7 @@ Item {
         repeat: true
         running: (pointer.carries || pointer.frames) && speed !== 0
         onTriggered: {
-            grid.contentY = Math.max(-grid.topMargin, Math.min(grid.contentHeight + grid.bottomMargin - grid.height, grid.contentY + Math.max(-28, Math.min(28, speed / 2))))
+            grid.contentY = Math.max(-grid.topMargin, Math.min(grid.contentHeight + grid.bottomMargin - grid.height, grid.contentY + Math.max(-36, Math.min(36, speed))))
             pointer.aim()
         }
     }
@@ -200,8 +200,8 @@ Item {
     }
     Rectangle {
         visible: pointer.carries
-        x: pointer.mouseX + 16
-        y: pointer.mouseY + 12
+        x: Math.max(0, Math.min(root.width - width - 4, pointer.mouseX + 16))
+        y: Math.max(0, Math.min(root.height - height - 4, pointer.mouseY + 12))
         width: carried.implicitWidth + 24
         height: 32
         radius: 16

@@ -42,7 +42,7 @@ Rectangle {
     PageGrid {
         anchors { left: parent.left; right: parent.right; top: bar.bottom; bottom: parent.bottom; leftMargin: 6; rightMargin: 4; bottomMargin: 4 }
         visible: root.ready
-        side: root.large ? 232 : 116
+        side: root.large ? 232 : root.height < 300 ? 76 : 116
     }
 
     Shortcut { sequences: [StandardKey.Undo]; enabled: root.ready && App.pages.canUndo; onActivated: App.pages.undo() }

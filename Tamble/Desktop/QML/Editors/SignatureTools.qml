@@ -10,13 +10,6 @@ Column {
 
     Component.onCompleted: App.savedSignatures.reload()
 
-    Segments {
-        width: parent.width
-        options: [{ "label": qsTr("Black ink") }, { "label": qsTr("Blue ink") }]
-        current: App.ink.isBlue ? 1 : 0
-        onPicked: index => App.ink.isBlue = index === 1
-    }
-
     Rectangle {
         id: pad
 
@@ -68,6 +61,13 @@ Column {
             IconButton { sign: "ui.undo"; text: qsTr("Undo the last stroke"); signColor: "#625D70"; onClicked: App.ink.undo() }
             IconButton { sign: "ui.close"; text: qsTr("Clear"); signColor: "#625D70"; onClicked: App.ink.clear() }
         }
+    }
+
+    Segments {
+        width: parent.width
+        options: [{ "label": qsTr("Black ink") }, { "label": qsTr("Blue ink") }]
+        current: App.ink.isBlue ? 1 : 0
+        onPicked: index => App.ink.isBlue = index === 1
     }
 
     Flow {
