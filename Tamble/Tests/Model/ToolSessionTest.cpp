@@ -10,8 +10,8 @@
 namespace tamble {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 InputFile file(const std::string& name, const char* type, std::int64_t size = 1) {
     return {.url = FilePath("/drop/" + name),
@@ -61,7 +61,7 @@ TEST(ToolSession, SortsMovesAndRemovesWithoutLosingTheDroppedOrder) {
 }
 
 TEST(GoneFiles, AreThoseWithoutAnythingAtTheirPath) {
-    const TemporaryFolder folder;
+    const testing::TemporaryFolder folder;
     const auto path = [&folder](const char* name) { return FilePath(folder.path() / name); };
     std::ofstream(path("there.jpg").path()) << "x";
     std::filesystem::create_symlink("nowhere", path("dangling link").path());
