@@ -83,6 +83,8 @@ void ResultModel::describe(const JobResult& result, const ToolInfo& tool) {
         title_ = totals.failed > 0 ? tr("That didn't work") : tr("Nothing to do");
     } else {
         title_ = texts::finished(tool.id, totals.done);
+        if (result.undo.createdFiles.size() == 1 && totals.savedFolders == 0)
+            parts << texts::place(result.undo.createdFiles.front());
         // Turning or renaming changes a few bytes that nobody asked about.
         const auto changed = std::abs(totals.bytesAfter - totals.bytesBefore);
         const bool changesSize = totals.bytesAfter > 0 && changed * 50 > totals.bytesBefore;

@@ -97,7 +97,7 @@ Scroller {
         }
         ResultList {
             width: parent.width
-            visible: model.count > 0 && !root.undone
+            visible: model.count > 1 && !root.undone
             heading: qsTr("Folders")
             folders: true
             model: App.result.folders
