@@ -14,9 +14,11 @@ T.RadioButton {
     leftPadding: 12
     rightPadding: 12
     checked: chosen
-    autoExclusive: false
+    checkable: false // whoever is asked decides what is chosen
     hoverEnabled: true
     Accessible.name: text
+    Accessible.role: Accessible.RadioButton
+    Accessible.checked: chosen
     Accessible.description: description
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()

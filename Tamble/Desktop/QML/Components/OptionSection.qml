@@ -52,19 +52,25 @@ Column {
         id: cards
 
         Column {
+            id: list
+
+            readonly property var all: root.showsMore ? root.choices.concat(root.moreChoices) : root.choices
+
             spacing: 2
 
+            // By number: choosing changes all choices, and the keyboard stays where it is.
             Repeater {
-                model: root.showsMore ? root.choices.concat(root.moreChoices) : root.choices
+                model: list.all.length
 
                 ChoiceCard {
                     required property int index
-                    required property var modelData
 
-                    width: parent.width
-                    text: modelData.label
-                    description: modelData.description
-                    chosen: modelData.chosen
+                    readonly property var choice: list.all[index] ?? list.all[0]
+
+                    width: list.width
+                    text: choice.label
+                    description: choice.description
+                    chosen: choice.chosen
                     category: root.category
                     onClicked: root.panel.choose(root.index, index)
                 }
@@ -105,8 +111,8 @@ Column {
             text: root.choices[0].label
             description: root.choices[0].description
             category: root.category
-            checked: root.choices.length > 1 ? !root.choices[1].chosen : root.choices[0].chosen
-            onToggled: root.panel.choose(root.index, checked ? 0 : 1)
+            on: root.choices.length > 1 ? !root.choices[1].chosen : root.choices[0].chosen
+            onSwitched: on => root.panel.choose(root.index, on ? 0 : 1)
         }
     }
     Component {

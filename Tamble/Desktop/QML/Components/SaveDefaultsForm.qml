@@ -30,8 +30,8 @@ Column {
             PushButton { width: Math.min(implicitWidth, root.width); elide: Text.ElideMiddle; sign: "ui.folder"; text: root.defaults.folder; onClicked: App.choose("folder", "", urls => root.defaults.chooseFolder(urls[0])) }
             PushButton { kind: "quiet"; text: qsTr("Use Downloads"); onClicked: root.defaults.forgetFolder() }
         }
-        Toggle { width: parent.width; text: qsTr("A folder for each day"); checked: root.defaults.addDateFolder; onToggled: root.defaults.addDateFolder = checked }
-        Toggle { width: parent.width; text: qsTr("Keep the folders as they were"); checked: root.defaults.keepStructure; onToggled: root.defaults.keepStructure = checked }
+        Toggle { width: parent.width; text: qsTr("A folder for each day"); on: root.defaults.addDateFolder; onSwitched: on => root.defaults.addDateFolder = on }
+        Toggle { width: parent.width; text: qsTr("Keep the folders as they were"); on: root.defaults.keepStructure; onSwitched: on => root.defaults.keepStructure = on }
     }
     Row {
         anchors.left: parent.left

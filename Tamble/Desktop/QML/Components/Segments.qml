@@ -15,7 +15,13 @@ Rectangle {
     implicitWidth: row.implicitWidth + 6
     radius: 11
     color: Theme.sunken
-    Accessible.role: Accessible.RadioButton
+
+    // The arrows choose the one beside it, and the keyboard goes along.
+    function step(by) {
+        const next = Math.max(0, Math.min(options.length - 1, current + by))
+        picked(next)
+        segments.itemAt(next).forceActiveFocus(Qt.TabFocusReason)
+    }
 
     Row {
         id: row
@@ -35,7 +41,8 @@ Rectangle {
         Repeater {
             id: segments
 
-            model: root.options
+            // By number: the words may change while the keyboard is on one of them.
+            model: root.options.length
             onItemAdded: ++row.made
             onItemRemoved: --row.made
 
@@ -43,19 +50,22 @@ Rectangle {
                 id: segment
 
                 required property int index
-                required property var modelData
 
                 width: root.stretch ? Math.max(0, row.even ? row.share : implicitWidth + (row.room - row.words) / root.options.length) : implicitWidth
                 implicitWidth: word.implicitWidth + 26
                 height: row.height
                 checked: index === root.current
-                autoExclusive: false
+                checkable: false // whoever is asked decides what is chosen
                 hoverEnabled: true
-                text: modelData.label
+                text: root.options[index]?.label ?? ""
                 Accessible.name: text
+                Accessible.role: Accessible.RadioButton
+                Accessible.checked: checked
                 onClicked: root.picked(index)
-                Keys.onLeftPressed: root.picked(Math.max(0, root.current - 1))
-                Keys.onRightPressed: root.picked(Math.min(root.options.length - 1, root.current + 1))
+                Keys.onLeftPressed: root.step(mirrored ? 1 : -1)
+                Keys.onRightPressed: root.step(mirrored ? -1 : 1)
+                Keys.onReturnPressed: root.picked(index)
+                Keys.onEnterPressed: root.picked(index)
 
                 contentItem: Label {
                     id: word

@@ -8,13 +8,22 @@ T.Switch {
 
     property string description
     property string category
+    property bool on: false
+    signal switched(bool on)
+
+    // Whoever is asked decides whether it is on: a switch that turned itself would no longer follow.
+    checkable: false
+    checked: on
+    onClicked: switched(!on)
 
     implicitHeight: Math.max(Theme.control, texts.implicitHeight + 12)
     hoverEnabled: true
     Accessible.name: text
     Accessible.description: description
-    Keys.onReturnPressed: { toggle(); toggled() }
-    Keys.onEnterPressed: { toggle(); toggled() }
+    Accessible.role: Accessible.CheckBox
+    Accessible.checked: on
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     indicator: Rectangle {
         x: root.mirrored ? 0 : root.width - width

@@ -92,8 +92,8 @@ Column {
         text: qsTr("Keep for next time")
         description: qsTr("Stays on this computer.")
         category: "pdf"
-        checked: App.ink.keeps
-        onToggled: App.ink.keeps = checked
+        on: App.ink.keeps
+        onSwitched: on => App.ink.keeps = on
     }
 
     Label { width: parent.width; visible: App.savedSignatures.count > 0; kind: "strong"; text: qsTr("Your signatures"); topPadding: Theme.space1 }

@@ -49,8 +49,8 @@ Scroller {
                 width: parent.width
                 text: qsTr("Remember what I choose for a job")
                 description: qsTr("The next job then starts with it.")
-                checked: App.preferences.rememberFolderChoice
-                onToggled: App.preferences.rememberFolderChoice = checked
+                on: App.preferences.rememberFolderChoice
+                onSwitched: on => App.preferences.rememberFolderChoice = on
             }
         }
         SettingsGroup {
@@ -75,8 +75,8 @@ Scroller {
                 width: parent.width
                 text: qsTr("Tell me when a job is done")
                 description: qsTr("With a notification, if the window isn't in front.")
-                checked: App.preferences.notifyWhenDone
-                onToggled: App.preferences.notifyWhenDone = checked
+                on: App.preferences.notifyWhenDone
+                onSwitched: on => App.preferences.notifyWhenDone = on
             }
         }
         SettingsGroup {
