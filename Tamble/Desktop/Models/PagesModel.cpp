@@ -80,7 +80,9 @@ QString PagesModel::advice() const {
 }
 
 QString PagesModel::missing() const {
-    if (count() == 0 || !document_.isActive() || edits_.result()) return {};
+    if (!document_.isActive()) return {};
+    if (!document_.sentence().isEmpty()) return document_.sentence();
+    if (count() == 0 || edits_.result()) return {};
     return isOrdering() ? tr("Move, turn or leave out a page first.") : tr("Pick at least one page first.");
 }
 
