@@ -61,15 +61,8 @@ QString PagesModel::summary() const {
 }
 
 QString PagesModel::heading() const {
-    switch (edits_.use()) {
-        case PageUse::order:
-            return tr("Put the pages in order");
-        case PageUse::deletion:
-            return tr("Which pages should go?");
-        case PageUse::selection:
-            return tr("Which pages do you want?");
-    }
-    return {};
+    if (isOrdering()) return tr("Put the pages in order");
+    return edits_.use() == PageUse::deletion ? tr("Which pages should go?") : tr("Which pages do you want?");
 }
 
 QString PagesModel::advice() const {
