@@ -61,15 +61,8 @@ QString PagesModel::summary() const {
 }
 
 QString PagesModel::heading() const {
-    switch (edits_.use()) {
-        case PageUse::order:
-            return tr("Put the pages in order");
-        case PageUse::deletion:
-            return tr("Which pages should go?");
-        case PageUse::selection:
-            return tr("Which pages do you want?");
-    }
-    return {};
+    if (isOrdering()) return tr("Put the pages in order");
+    return edits_.use() == PageUse::deletion ? tr("Which pages should go?") : tr("Which pages do you want?");
 }
 
 QString PagesModel::advice() const {
@@ -80,7 +73,9 @@ QString PagesModel::advice() const {
 }
 
 QString PagesModel::missing() const {
-    if (count() == 0 || !document_.isActive() || edits_.result()) return {};
+    if (!document_.isActive()) return {};
+    if (!document_.sentence().isEmpty()) return document_.sentence();
+    if (count() == 0 || edits_.result()) return {};
     return isOrdering() ? tr("Move, turn or leave out a page first.") : tr("Pick at least one page first.");
 }
 

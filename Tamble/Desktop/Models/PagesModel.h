@@ -42,7 +42,8 @@ class PagesModel : public QAbstractListModel {
     /// What is done here, and how.
     QString heading() const;
     QString advice() const;
-    /// What has to be done before the job can start; empty when nothing, or the typed list says it.
+    /// What has to be done before the job can start, or why it cannot; empty when nothing, or the tool says
+    /// it.
     QString missing() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
