@@ -37,8 +37,8 @@ QString change(std::int64_t bytesBefore, std::int64_t bytesAfter) {
     const int whole = static_cast<int>(std::lround(std::abs(percent)));
     if (whole == 0) return Texts::tr("the same size");
     // "100 % smaller" would say that nothing is left.
-    return percent < 0 ? Texts::tr("%1 % smaller").arg(std::min(whole, 99))
-                       : Texts::tr("%1 % larger").arg(whole);
+    return percent < 0 ? Texts::tr("%1 % smaller").arg(QLocale().toString(std::min(whole, 99)))
+                       : Texts::tr("%1 % larger").arg(QLocale().toString(whole));
 }
 
 QString timeLeft(double seconds) {

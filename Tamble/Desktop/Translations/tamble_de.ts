@@ -2120,11 +2120,11 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     <name>PageTools</name>
     <message>
         <source>Turn left</source>
-        <translation>Nach links drehen</translation>
+        <translation>Linksherum</translation>
     </message>
     <message>
         <source>Turn right</source>
-        <translation>Nach rechts drehen</translation>
+        <translation>Rechtsherum</translation>
     </message>
     <message>
         <source>Bring back</source>
@@ -2840,7 +2840,7 @@ Am besten klappt es, wenn sich das Motiv deutlich vom Hintergrund abhebt.</trans
     <name>tamble::ActivityModel</name>
     <message>
         <source>This job was undone from Activity.</source>
-        <translation>Dieser Auftrag wurde im Verlauf rückgängig gemacht.</translation>
+        <translation>Im Verlauf rückgängig gemacht.</translation>
     </message>
     <message numerus="yes">
         <source>%n saved</source>

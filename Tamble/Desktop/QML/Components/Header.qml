@@ -43,7 +43,7 @@ Item {
         }
 
         Label { width: parent.width; kind: root.symbol ? "heading" : "title"; text: root.title; elide: Text.ElideRight }
-        Label { width: parent.width; visible: text; quiet: true; text: root.subtitle; elide: Text.ElideRight; maximumLineCount: 1 }
+        Label { width: parent.width; visible: text; quiet: true; text: root.subtitle; wrapMode: Text.Wrap; elide: Text.ElideRight; maximumLineCount: 2 }
     }
     Row {
         id: end

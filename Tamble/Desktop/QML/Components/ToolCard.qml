@@ -44,14 +44,19 @@ T.AbstractButton {
             }
 
             Label {
+                id: name
+
                 width: parent.width
                 kind: "strong"
                 text: root.title
+                wrapMode: Text.Wrap
+                maximumLineCount: 2
                 elide: Text.ElideRight
                 Accessible.ignored: true
             }
             Label {
                 width: parent.width
+                visible: name.lineCount === 1 || root.large
                 quiet: true
                 text: root.subtitle
                 elide: Text.ElideRight
