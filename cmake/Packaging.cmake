@@ -76,7 +76,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY
 set(needed poppler-utils)
 set(recommended "")
 if(TARGET tamble-desktop)
-    foreach(module qtcore qtqml qtqml-models qtqml-workerscript qtquick qtquick-controls qtquick-dialogs qtquick-layouts
+    foreach(module qt-labs-folderlistmodel qtcore qtqml qtqml-models qtqml-workerscript qtquick qtquick-controls qtquick-dialogs qtquick-layouts
                    qtquick-shapes qtquick-templates qtquick-window)
         list(APPEND needed qml6-module-${module})
     endforeach()

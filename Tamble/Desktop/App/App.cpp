@@ -5,6 +5,8 @@
 #include <Tamble/Desktop/Support/Texts.h>
 #include <Tamble/Model/PopularTools.h>
 
+#include <TambleCore/Platform/StandardFolders.h>
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -109,7 +111,7 @@ void App::openTool(const QString& toolID) {
 }
 
 void App::choose(const QString& kind, const QUrl& start, const QJSValue& take) {
-    emit choiceRequested(kind, start, take);
+    emit choiceRequested(kind, start.isEmpty() ? urlOf(folders::home()) : start, take);
 }
 
 void App::startOver() {

@@ -88,8 +88,8 @@ class App : public QObject {
     Q_INVOKABLE void paste();
     /// Opens the tool with what was dropped.
     Q_INVOKABLE void openTool(const QString& toolID);
-    /// Lets people choose "files", a "file" or a "folder", beginning at `start`; `take` is called with a list
-    /// of URLs unless they change their mind.
+    /// Lets people choose "files", a "file" or a "folder", beginning at `start` or at home; `take` is called
+    /// with a list of URLs unless they change their mind.
     Q_INVOKABLE void choose(const QString& kind, const QUrl& start, const QJSValue& take);
     Q_INVOKABLE void startOver();
     Q_INVOKABLE void startJob();

@@ -2,26 +2,29 @@ import QtQuick
 import Tamble
 
 // The system's dialogs for files and folders, loaded when first asked for.
-QtObject {
+Item {
     id: root
 
-    property Component dialogs: null
-    property var shown: null
+    property var take: null
 
     function show(kind, start, take) {
-        if (!dialogs)
-            dialogs = Qt.createComponent("FileDialogs.qml")
-        if (dialogs.status === Component.Error) {
-            console.warn(dialogs.errorString())
-            return
-        }
-        if (shown)
-            shown.destroy()
-        shown = dialogs.createObject(null, { "kind": kind, "take": take, "start": start })
-        shown.open()
+        root.take = take
+        loader.active = true
+        if (loader.item)
+            loader.item.ask(kind, start)
     }
 
-    property Connections requests: Connections {
+    Loader {
+        id: loader
+
+        active: false
+        source: "FileDialogs.qml"
+    }
+    Connections {
+        target: loader.item
+        function onChosen(urls) { root.take(urls) }
+    }
+    Connections {
         target: App
         function onChoiceRequested(kind, start, take) { root.show(kind, start, take) }
     }

@@ -1,27 +1,38 @@
 import QtQuick
 import QtQuick.Dialogs
-import Tamble
 
-// One question for files or a folder.
-QtObject {
+// Asks for "files", a "file" or a "folder".
+Item {
     id: root
 
-    property string kind
-    property var take
-    property url start
+    signal chosen(var urls)
 
-    function open() {
-        const dialog = kind === "folder" ? folderDialog : fileDialog
-        dialog.open()
+    property bool wasAsked: false
+
+    function ask(kind, start) {
+        if (kind === "folder") {
+            folderDialog.currentFolder = start
+            folderDialog.open()
+        } else {
+            // Later they begin where the last files were.
+            if (!wasAsked)
+                fileDialog.currentFolder = start
+            wasAsked = true
+            fileDialog.fileMode = kind === "files" ? FileDialog.OpenFiles : FileDialog.OpenFile
+            fileDialog.open()
+        }
     }
 
-    property FileDialog fileDialog: FileDialog {
-        title: root.kind === "files" ? qsTr("Add files") : qsTr("Choose a file")
-        fileMode: root.kind === "files" ? FileDialog.OpenFiles : FileDialog.OpenFile
-        onAccepted: root.take(selectedFiles)
+    FileDialog {
+        id: fileDialog
+
+        title: fileMode === FileDialog.OpenFiles ? qsTr("Add files") : qsTr("Choose a file")
+        onAccepted: root.chosen(selectedFiles)
     }
-    property FolderDialog folderDialog: FolderDialog {
+    FolderDialog {
+        id: folderDialog
+
         title: qsTr("Choose a folder")
-        onAccepted: root.take([selectedFolder])
+        onAccepted: root.chosen([selectedFolder])
     }
 }
