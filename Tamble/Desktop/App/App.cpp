@@ -1,6 +1,6 @@
 #include <Tamble/Desktop/App/App.h>
 #include <Tamble/Desktop/App/DesktopServices.h>
-#include <Tamble/Desktop/Pictures/SymbolProvider.h>
+#include <Tamble/Desktop/Pictures/DrawnProviders.h>
 #include <Tamble/Desktop/Support/StartText.h>
 #include <Tamble/Desktop/Support/Texts.h>
 #include <Tamble/Model/PopularTools.h>
@@ -55,6 +55,7 @@ void App::prepare(QQmlEngine& engine) {
     // The engine owns its providers.
     engine.addImageProvider(QStringLiteral("symbol"), std::make_unique<SymbolProvider>().release());
     engine.addImageProvider(QStringLiteral("shadow"), std::make_unique<ShadowProvider>().release());
+    engine.addImageProvider(QStringLiteral("dashes"), std::make_unique<DashesProvider>().release());
     engine.addImageProvider(QStringLiteral("file"),
                             std::make_unique<FilePictureProvider>(pictures_).release());
 }

@@ -1,4 +1,4 @@
-#include <Tamble/Desktop/Pictures/SymbolProvider.h>
+#include <Tamble/Desktop/Pictures/DrawnProviders.h>
 
 #include <QFile>
 #include <QPainter>

@@ -49,8 +49,10 @@ T.ApplicationWindow {
 
     FileChooser {}
 
-    QuickSearchPopup {
+    LatePopup {
         id: search
+
+        sourceComponent: QuickSearchPopup {}
     }
 
     Toast {
@@ -62,15 +64,17 @@ T.ApplicationWindow {
         onAction: App.activity.undo(undoID)
     }
 
-    Question {
+    LatePopup {
         id: quitGuard
 
-        mood: "working"
-        heading: qsTr("A job is still running")
-        explanation: qsTr("If you quit now, it stops and nothing is saved. If it has already started saving, Tamble finishes that first, then quits.")
-        yes: qsTr("Quit")
-        no: qsTr("Keep working")
-        onAgreed: App.quitAfterJob()
+        sourceComponent: Question {
+            mood: "working"
+            heading: qsTr("A job is still running")
+            explanation: qsTr("If you quit now, it stops and nothing is saved. If it has already started saving, Tamble finishes that first, then quits.")
+            yes: qsTr("Quit")
+            no: qsTr("Keep working")
+            onAgreed: App.quitAfterJob()
+        }
     }
 
     Connections {
@@ -95,24 +99,28 @@ T.ApplicationWindow {
         }
     }
 
-    // What a job left behind whose program died: it stays until it is answered.
-    Question {
+    // What jobs left behind whose program died: each stays until it is answered.
+    LatePopup {
         id: interruption
 
         property var sentences: []
-        readonly property var first: sentences.length > 0 ? sentences[0] : null
-
-        mood: "sorry"
-        heading: qsTr("A job was interrupted")
-        explanation: first ? first.text : ""
-        yes: first && first.id ? qsTr("Put everything back") : qsTr("All right")
-        no: first && first.id ? qsTr("Leave it as it is") : qsTr("Show activity")
-        onSentencesChanged: if (sentences.length > 0 && !opened) open()
-        onAgreed: { if (first.id) App.activity.undo(first.id); next() }
-        onRefused: { if (!first.id) App.navigator.open(Navigator.Activity); next() }
 
         // The next one is asked about once this one is closed.
         function next() { Qt.callLater(() => sentences = sentences.slice(1)) }
+
+        onSentencesChanged: if (sentences.length > 0 && !opened) open()
+        sourceComponent: Question {
+            readonly property var first: interruption.sentences[0] ?? null
+            readonly property bool canUndo: first !== null && first.id !== ""
+
+            mood: "sorry"
+            heading: qsTr("A job was interrupted")
+            explanation: first ? first.text : ""
+            yes: canUndo ? qsTr("Put everything back") : qsTr("All right")
+            no: canUndo ? qsTr("Leave it as it is") : qsTr("Show activity")
+            onAgreed: { if (canUndo) App.activity.undo(first.id); interruption.next() }
+            onRefused: { if (!canUndo) App.navigator.open(Navigator.Activity); interruption.next() }
+        }
     }
 
     Shortcut { sequences: ["Ctrl+K", "Ctrl+Alt+Z"]; enabled: !App.job.isRunning; onActivated: search.open() }

@@ -16,7 +16,8 @@ Text {
     font.pixelSize: sizes[kind]
     font.weight: kind === "body" ? Font.Normal : kind === "strong" || kind === "caption" ? Font.DemiBold : 650
     font.letterSpacing: kind === "display" ? -0.7 : kind === "title" ? -0.5 : kind === "heading" ? -0.2 : 0
-    lineHeight: kind === "body" || kind === "strong" ? 1.25 : 1.1
+    // One line needs none, and asking for it loads every font a second time.
+    lineHeight: wrapMode === Text.NoWrap ? 1 : kind === "body" || kind === "strong" ? 1.25 : 1.1
     horizontalAlignment: Text.AlignLeft // mirrored where the screen is, whatever is written
     verticalAlignment: Text.AlignVCenter
     textFormat: Text.PlainText

@@ -6,24 +6,24 @@ Surface {
     id: root
 
     property int most: 3
+    readonly property int rowHeight: 56
 
-    height: column.height
+    height: Math.min(most, App.activity.count) * rowHeight
     visible: App.activity.count > 0
 
-    Column {
-        id: column
+    // A list makes only the rows that are seen, of a thousand.
+    ListView {
+        id: list
 
-        width: parent.width
+        anchors.fill: parent
+        model: App.activity
+        interactive: false
+        clip: true
 
-        Repeater {
-            model: App.activity
-
-            ActivityRow {
-                width: column.width
-                height: visible ? 56 : 0
-                visible: index < root.most
-                compact: true
-            }
+        delegate: ActivityRow {
+            width: list.width
+            height: root.rowHeight
+            compact: true
         }
     }
 }

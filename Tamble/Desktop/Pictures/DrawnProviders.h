@@ -19,4 +19,11 @@ class ShadowProvider final : public QQuickImageProvider {
     QImage requestImage(const QString& id, QSize* size, const QSize& requestedSize) override;
 };
 
+/// A dashed rounded rectangle of the size asked for: "image://dashes/RADIUS/THICKNESS/RRGGBB" in pixels.
+class DashesProvider final : public QQuickImageProvider {
+  public:
+    DashesProvider() : QQuickImageProvider(Image) {}
+    QImage requestImage(const QString& id, QSize* size, const QSize& requestedSize) override;
+};
+
 }  // namespace tamble
