@@ -5,7 +5,10 @@ import Tamble
 Rectangle {
     id: root
 
+    property real lowest: 286
     readonly property bool tight: width < 620
+
+    implicitHeight: Math.max(lowest, words.implicitHeight + 48)
 
     radius: Theme.dropRadius
     color: Theme.brandSoft
@@ -19,12 +22,14 @@ Rectangle {
         id: mascot
 
         anchors { left: parent.left; leftMargin: root.tight ? 24 : 56; verticalCenter: parent.verticalCenter }
-        size: Math.min(220, root.height - 50, root.width * 0.3)
+        size: Math.min(220, root.lowest - 50, root.width * 0.3)
         expression: App.intake.isBusy ? "working" : "waiting"
         content: "files"
         moving: Theme.moves
     }
     Column {
+        id: words
+
         anchors { left: mascot.right; leftMargin: root.tight ? 20 : 48; right: parent.right; rightMargin: 28; verticalCenter: parent.verticalCenter }
         spacing: Theme.space2
 

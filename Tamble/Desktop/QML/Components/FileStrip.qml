@@ -30,10 +30,14 @@ Item {
         activeFocusOnTab: true
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Files")
-        Keys.onLeftPressed: App.comparison.row = Math.max(0, currentIndex - 1)
-        Keys.onRightPressed: App.comparison.row = Math.min(count - 1, currentIndex + 1)
+        Keys.onLeftPressed: step(LayoutMirroring.enabled ? 1 : -1)
+        Keys.onRightPressed: step(LayoutMirroring.enabled ? -1 : 1)
         Keys.onDeletePressed: root.removeAt(currentIndex)
         WheelHandler { onWheel: event => strip.flick(event.angleDelta.y * 8, 0) }
+
+        function step(by) {
+            App.comparison.row = Math.max(0, Math.min(count - 1, currentIndex + by))
+        }
 
         delegate: Item {
             id: cell

@@ -28,12 +28,12 @@ Rectangle {
         Label { width: parent.width; quiet: true; text: App.tool.subtitle; horizontalAlignment: Text.AlignHCenter; wrapMode: Text.Wrap }
         Grid {
             anchors.horizontalCenter: parent.horizontalCenter
-            columns: parent.width < 270 ? 1 : 2
+            columns: files.implicitWidth + folder.implicitWidth + spacing > parent.width ? 1 : 2
             spacing: Theme.space2
             horizontalItemAlignment: Grid.AlignHCenter
 
-            PushButton { kind: "main"; big: !root.low; text: qsTr("Add files…"); onClicked: App.choose("files", "", urls => App.take(urls)) }
-            PushButton { big: !root.low; text: qsTr("Add folder…"); onClicked: App.choose("folder", "", urls => App.take(urls)) }
+            PushButton { id: files; kind: "main"; big: !root.low; text: qsTr("Add files…"); onClicked: App.choose("files", "", urls => App.take(urls)) }
+            PushButton { id: folder; big: !root.low; text: qsTr("Add folder…"); onClicked: App.choose("folder", "", urls => App.take(urls)) }
         }
     }
 }

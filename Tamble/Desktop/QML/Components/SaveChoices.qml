@@ -12,6 +12,7 @@ Flow {
 
     Segments {
         visible: root.save.renames
+        width: Math.min(implicitWidth, parent.width)
         stretch: false
         options: [{ "label": qsTr("Rename the files") }, { "label": qsTr("Make renamed copies") }]
         current: root.save.renamesCopies ? 1 : 0
@@ -19,6 +20,7 @@ Flow {
     }
     Segments {
         visible: root.makesFiles
+        width: Math.min(implicitWidth, parent.width)
         stretch: false
         options: root.save.canReplace
             ? [{ "label": qsTr("Next to each original") }, { "label": qsTr("In one folder") }, { "label": qsTr("In place of originals") }]

@@ -33,11 +33,11 @@ Column {
         Toggle { width: parent.width; text: qsTr("A folder for each day"); on: root.defaults.addDateFolder; onSwitched: on => root.defaults.addDateFolder = on }
         Toggle { width: parent.width; text: qsTr("Keep the folders as they were"); on: root.defaults.keepStructure; onSwitched: on => root.defaults.keepStructure = on }
     }
-    Row {
-        anchors.left: parent.left
+    Flow {
+        width: parent.width
         spacing: Theme.space3
 
-        Label { anchors.verticalCenter: parent.verticalCenter; quiet: true; text: qsTr("If the name is taken") }
+        Label { height: Theme.control; quiet: true; text: qsTr("If the name is taken") }
         Chooser {
             model: [qsTr("Add a number"), qsTr("Skip the file"), qsTr("Replace, old one to the Bin")]
             hint: qsTr("If the name is taken")

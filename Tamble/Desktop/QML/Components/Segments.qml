@@ -12,7 +12,7 @@ Rectangle {
     signal picked(int index)
 
     implicitHeight: Theme.control
-    implicitWidth: row.implicitWidth + 6
+    implicitWidth: row.words + (options.length - 1) * row.spacing + 6
     radius: 11
     color: Theme.sunken
 
@@ -51,7 +51,7 @@ Rectangle {
 
                 required property int index
 
-                width: root.stretch ? Math.max(0, row.even ? row.share : implicitWidth + (row.room - row.words) / root.options.length) : implicitWidth
+                width: Math.max(0, row.even && root.stretch ? row.share : implicitWidth + (row.room - row.words) / root.options.length)
                 implicitWidth: word.implicitWidth + 26
                 height: row.height
                 checked: index === root.current

@@ -17,8 +17,10 @@ Scroller {
         spacing: 22
 
         Item {
+            readonly property bool stacked: actions.width > width / 2
+
             width: parent.width
-            height: 84
+            height: stacked ? 84 + Theme.space3 + actions.height : 84
 
             Mascot {
                 id: mascot
@@ -30,7 +32,7 @@ Scroller {
                 moving: App.intake.isBusy && Theme.moves
             }
             Column {
-                anchors { left: mascot.right; leftMargin: 20; right: actions.left; rightMargin: 16; verticalCenter: parent.verticalCenter }
+                anchors { left: mascot.right; leftMargin: 20; right: parent.stacked ? parent.right : actions.left; rightMargin: 16; verticalCenter: mascot.verticalCenter }
                 spacing: 2
 
                 Label { width: parent.width; kind: "title"; text: App.intake.title; elide: Text.ElideRight }
@@ -39,7 +41,8 @@ Scroller {
             Row {
                 id: actions
 
-                anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+                anchors.right: parent.right
+                y: parent.stacked ? parent.height - height : (parent.height - height) / 2
                 spacing: Theme.space2
 
                 AddButton {}

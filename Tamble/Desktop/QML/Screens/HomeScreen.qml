@@ -16,7 +16,7 @@ Scroller {
         width: root.width - 2 * root.margin
         spacing: Theme.space5
 
-        DropInvitation { width: parent.width; height: root.height < 620 ? 220 : 286 }
+        DropInvitation { width: parent.width; height: implicitHeight; lowest: root.height < 620 ? 220 : 286 }
 
         Column {
             width: parent.width
