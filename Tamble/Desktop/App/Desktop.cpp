@@ -1,5 +1,6 @@
 #include <Tamble/Desktop/App/AppWindow.h>
 #include <Tamble/Desktop/App/Desktop.h>
+#include <Tamble/Desktop/App/FirstFrame.h>
 #include <Tamble/Desktop/App/Language.h>
 #include <Tamble/Desktop/App/SingleInstance.h>
 #include <Tamble/Desktop/Support/Texts.h>
@@ -47,6 +48,7 @@ int runDesktop(int argumentCount, char** arguments) {
 
     AppWindow window;
     if (window.window() == nullptr) return 1;
+    tellFirstFrame(*window.window());
     App& app = window.app();
     QObject::connect(&instance, &SingleInstance::arrived, &app, [&app](const QList<QUrl>& arrived) {
         emit app.raiseRequested();

@@ -75,13 +75,15 @@ QImage seeThroughPixel() {
 /// Is deleted by the toolkit once it has answered, also when its picture is no longer wanted.
 class Response final : public QQuickImageResponse {
   public:
-    Response(std::shared_ptr<FilePictures> pictures, std::optional<Request> request)
-        : pictures_(std::move(pictures)), request_(std::move(request)) {}
+    // Shares no ownership: the toolkit forgets those that are under way when the window goes, and the
+    // pictures wait for their threads.
+    Response(FilePictures& pictures, std::optional<Request> request)
+        : pictures_(pictures), request_(std::move(request)) {}
 
     void begin() {
         if (request_ && request_->wanted.kind == FilePictures::Wanted::Kind::page) return beginPage();
-        pictures_->pool().start([this, stop = stop_.get_token()] {
-            finish(request_ ? pictures_->picture(request_->wanted, stop) : QImage());
+        pictures_.pool().start([this, stop = stop_.get_token()] {
+            finish(request_ ? pictures_.picture(request_->wanted, stop) : QImage());
         });
     }
     QQuickTextureFactory* textureFactory() const override {
@@ -90,17 +92,17 @@ class Response final : public QQuickImageResponse {
     void cancel() override {
         stop_.request_stop();
         // Later: whoever cancels holds a lock that the answer takes.
-        if (number_ && pictures_->pages().cancel(*number_)) finishSoon();
+        if (number_ && pictures_.pages().cancel(*number_)) finishSoon();
     }
 
   private:
     void beginPage() {
         const FilePictures::Wanted& wanted = request_->wanted;
-        if (const QImage kept = pictures_->kept(wanted); !kept.isNull()) {
+        if (const QImage kept = pictures_.kept(wanted); !kept.isNull()) {
             hold(kept);
             return finishSoon();
         }
-        number_ = pictures_->pages().want({wanted.file, wanted.page, wanted.pixels},
+        number_ = pictures_.pages().want({wanted.file, wanted.page, wanted.pixels},
                                           [this](const QImage& picture) { finish(picture); });
     }
     void hold(const QImage& picture) {
@@ -111,9 +113,11 @@ class Response final : public QQuickImageResponse {
         emit finished();
     }
     /// Not before whoever asked listens.
-    void finishSoon() { QMetaObject::invokeMethod(this, &QQuickImageResponse::finished, Qt::QueuedConnection); }
+    void finishSoon() {
+        QMetaObject::invokeMethod(this, &QQuickImageResponse::finished, Qt::QueuedConnection);
+    }
 
-    std::shared_ptr<FilePictures> pictures_;
+    FilePictures& pictures_;
     std::optional<Request> request_;
     std::stop_source stop_;
     std::optional<std::uint64_t> number_;
@@ -125,7 +129,7 @@ class Response final : public QQuickImageResponse {
 
 QQuickImageResponse* FilePictureProvider::requestImageResponse(const QString& id,
                                                                const QSize& requestedSize) {
-    auto response = std::make_unique<Response>(pictures_, parsed(id, requestedSize));
+    auto response = std::make_unique<Response>(*pictures_, parsed(id, requestedSize));
     response->begin();
     return response.release();
 }

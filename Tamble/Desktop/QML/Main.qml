@@ -127,6 +127,6 @@ T.ApplicationWindow {
     Shortcut { sequences: [StandardKey.Paste]; enabled: !search.opened; onActivated: App.paste() }
     Shortcut { sequences: [StandardKey.Quit]; onActivated: root.close() }
     Shortcut { sequences: [StandardKey.Open]; onActivated: App.choose("files", "", urls => App.take(urls)) }
-    Shortcut { sequences: [StandardKey.Back, "Alt+Left"]; enabled: !App.job.isRunning; onActivated: App.navigator.back() }
+    Shortcut { sequences: [StandardKey.Back]; enabled: !App.job.isRunning; onActivated: App.navigator.back() }
     Shortcut { sequences: [StandardKey.Preferences, "Ctrl+,"]; enabled: !App.job.isRunning; onActivated: App.navigator.open(Navigator.Settings) }
 }
