@@ -16,7 +16,7 @@ T.Popup {
 
     parent: T.Overlay.overlay
     anchors.centerIn: parent
-    width: Math.min(460, parent.width - 48)
+    width: parent ? Math.min(460, parent.width - 48) : 460
     padding: 24
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     modal: true

@@ -7,9 +7,9 @@ T.Popup {
     id: root
 
     parent: T.Overlay.overlay
-    x: Math.round((parent.width - width) / 2)
-    y: Math.min(110, parent.height / 8)
-    width: Math.min(600, parent.width - 48)
+    x: parent ? Math.round((parent.width - width) / 2) : 0
+    y: parent ? Math.min(110, parent.height / 8) : 0
+    width: parent ? Math.min(600, parent.width - 48) : 600
     padding: 10
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     modal: true
@@ -60,7 +60,7 @@ T.Popup {
             id: list
 
             width: parent.width
-            height: Math.min(contentHeight, Math.max(120, root.parent.height - root.y - 160))
+            height: Math.min(contentHeight, Math.max(120, (root.parent?.height ?? 800) - root.y - 160))
             model: App.search.tools
             clip: true
             T.ScrollBar.vertical: ScrollLine {}
