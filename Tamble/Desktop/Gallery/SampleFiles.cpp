@@ -81,7 +81,7 @@ fs::path SampleFiles::photos() const {
 fs::path SampleFiles::damagedPhotos() const {
     const fs::path folder = photos();
     std::ofstream(folder / "IMG_2041.jpg") << "\xFF\xD8\xFF\xE0 and then the card was pulled out";
-    fs::copy_file(folder / "goa-02.jpg", folder / "IMG_2042.jpg");
+    fs::copy_file(folder / "goa-01.jpg", folder / "IMG_2042.jpg");
     fs::resize_file(folder / "IMG_2042.jpg", 400);
     return folder;
 }

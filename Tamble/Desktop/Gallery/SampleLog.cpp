@@ -35,7 +35,7 @@ constexpr std::array jobs{
     Finished{6 * 24h, "image.removeMetadata", "For the club", 31, 0, 0, 96 * mega, 95 * mega},
     Finished{3 * 24h, "pdf.compress", "Manual.pdf", 1, 0, 0, 48 * mega, 11 * mega, true},
     Finished{25h, "files.rename", "Scans", 200},
-    Finished{3h, "pdf.merge", "Invoice March.pdf and 11 others", 1, 0, 0, 9 * mega, 9 * mega},
+    Finished{3h, "pdf.merge", "Invoice March.pdf and 11 others", 12, 0, 0, 9 * mega, 9 * mega},
     Finished{10min, "image.convert", "Goa trip", 126, 2, 0, 412 * mega, 96 * mega},
 };
 
