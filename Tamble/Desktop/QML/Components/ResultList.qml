@@ -9,7 +9,8 @@ Column {
     property string action
     property bool folders: false
     property RowsModel model
-    readonly property int rowHeight: folders ? 44 : 60
+    readonly property int rowHeight: folders ? 44 : narrow ? 74 : 60
+    readonly property bool narrow: width < 720
     signal acted()
 
     spacing: Theme.space3
@@ -72,7 +73,7 @@ Column {
                     id: name
 
                     anchors { left: thumb.right; leftMargin: root.folders ? 20 * parent.depth : 12; right: root.folders ? amount.left : parent.right; rightMargin: 16 }
-                    y: root.folders ? (parent.height - height) / 2 : 10
+                    y: root.folders ? (parent.height - height) / 2 : 9
                     text: root.folders ? parent.title : parent.title + (parent.place ? " · " + parent.place : "")
                     font.weight: Font.DemiBold
                     elide: Text.ElideMiddle
@@ -90,6 +91,8 @@ Column {
                     visible: !root.folders
                     quiet: true
                     text: parent.detail
+                    wrapMode: root.narrow ? Text.Wrap : Text.NoWrap
+                    maximumLineCount: root.narrow ? 2 : 1
                     elide: Text.ElideRight
                 }
             }
