@@ -39,6 +39,10 @@ App::App(QObject* parent)
     connect(&activity_, &ActivityModel::showRequested, this,
             [](const std::vector<std::filesystem::path>& files) { desktop::showInFolder(files); });
     connectSignatures();
+    connect(&tool_, &ToolModel::noticeChanged, this, [this] {
+        // An empty list shows it where the files would be.
+        if (!tool_.notice().isEmpty() && tool_.files()->count() > 0) emit said(tool_.notice());
+    });
     refreshPopular();
 }
 
@@ -63,6 +67,11 @@ void App::prepare(QQmlEngine& engine) {
 void App::begin() {
     look_.ask();
     activity_.recover();
+    // The command line may have done something meanwhile.
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, &activity_,
+            [this](Qt::ApplicationState state) {
+                if (state == Qt::ApplicationActive) activity_.reload();
+            });
 }
 
 int App::toolCount() const {
@@ -79,6 +88,8 @@ void App::take(const QList<QUrl>& urls) {
         emit said(tr("A job is running. Drop these once it is done."));
         return;
     }
+    // What was worked on is done with.
+    if (navigator_.screen() == Navigator::Done) intake_.clear();
     intake_.add(urls);
 }
 

@@ -68,6 +68,7 @@ void ActivityModel::recover() {
 }
 
 void ActivityModel::take(std::vector<Row> rows) {
+    if (isLoaded_ && rows == rows_) return;
     beginResetModel();
     rows_ = std::move(rows);
     isLoaded_ = true;

@@ -72,6 +72,7 @@ class ActivityModel : public QAbstractListModel {
         int done = 0, skipped = 0, failed = 0;
         std::int64_t bytesBefore = 0, bytesAfter = 0;
         bool undone = false;
+        friend bool operator==(const Row&, const Row&) = default;
     };
 
     std::vector<Row> readRows();
