@@ -73,10 +73,11 @@ void IntakeModel::add(std::vector<std::filesystem::path> paths) {
 }
 
 void IntakeModel::take(ScanResult scan) {
+    // A tool may have let go of what is known here.
+    const std::vector<InputFile> dropped = scan.files;
     std::unordered_set<std::string> known;
     for (const InputFile& file : scan_.files) known.insert(file.url.native());
     std::erase_if(scan.files, [&](const InputFile& file) { return known.contains(file.url.native()); });
-    const std::vector<InputFile> added = scan.files;
     std::ranges::move(scan.files, std::back_inserter(scan_.files));
     std::ranges::move(scan.roots, std::back_inserter(scan_.roots));
     for (int ScanResult::*count :
@@ -90,7 +91,7 @@ void IntakeModel::take(ScanResult scan) {
                               ? texts::engine("The folder you chose is empty or couldn't be read.")
                               : notes.front());
     } else {
-        emit found(added);
+        emit found(dropped);
     }
 }
 

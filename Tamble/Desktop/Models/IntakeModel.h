@@ -52,7 +52,7 @@ class IntakeModel : public QObject {
 
   signals:
     void changed();
-    /// A drop was looked through: these files are new.
+    /// A drop was looked through, and these files are in it.
     void found(const std::vector<tamble::InputFile>& files);
     /// A drop held nothing to work on; why, as a sentence.
     void nothingFound(const QString& sentence);

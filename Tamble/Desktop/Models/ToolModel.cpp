@@ -40,9 +40,10 @@ void ToolModel::open(const ToolInfo& tool, std::span<const InputFile> files) {
 
 void ToolModel::add(std::span<const InputFile> files) {
     if (!isOpen()) return;
-    const std::size_t taken = session_->add(files);
-    setNotice(taken > 0 || files.empty() ? QString()
-                                         : tr("None of these files is of a kind that this tool works with."));
+    session_->add(files);
+    const bool fits = std::ranges::any_of(files, session_->definition().accepts, &InputFile::contentType);
+    setNotice(fits || files.empty() ? QString()
+                                    : tr("None of these files is of a kind that this tool works with."));
     files_.refresh();
     filesChanged();
 }
