@@ -79,13 +79,17 @@ void IntakeModel::take(ScanResult scan) {
     for (const InputFile& file : scan_.files) known.insert(file.url.native());
     std::erase_if(scan.files, [&](const InputFile& file) { return known.contains(file.url.native()); });
     std::ranges::move(scan.files, std::back_inserter(scan_.files));
-    std::ranges::move(scan.roots, std::back_inserter(scan_.roots));
+    for (FolderNode& root : scan.roots) {
+        if (std::ranges::find(scan_.roots, root.url, &FolderNode::url) == scan_.roots.end())
+            scan_.roots.push_back(std::move(root));
+    }
     for (int ScanResult::*count :
-         {&ScanResult::looseFileCount, &ScanResult::otherFileCount, &ScanResult::skippedPackageCount,
-          &ScanResult::skippedLinkCount, &ScanResult::unreadableCount, &ScanResult::emptyFolderCount})
+         {&ScanResult::otherFileCount, &ScanResult::skippedPackageCount, &ScanResult::skippedLinkCount,
+          &ScanResult::unreadableCount, &ScanResult::emptyFolderCount})
         scan_.*count += scan.*count;
+    scan_.looseFileCount = static_cast<int>(std::ranges::count_if(scan_.files, &InputFile::isLoose));
     describe();
-    if (scan_.files.empty()) {
+    if (dropped.empty()) {
         const QStringList notes = texts::notes(scan);
         emit nothingFound(notes.isEmpty()
                               ? texts::engine("The folder you chose is empty or couldn't be read.")
