@@ -14,16 +14,12 @@ struct DropSummary {
     int others = 0;
     /// Dropped folders in which something was found.
     int folders = 0;
-    /// Folders below these that hold files.
-    int subfolders = 0;
     /// Files that were dropped themselves.
     int looseFiles = 0;
     /// Of all files that were taken.
     std::int64_t bytes = 0;
-    /// Names for people to read; empty when there is no such thing.
+    /// For people to read; empty when no folder was dropped.
     std::string firstFolderName;
-    std::string firstFileName;
-    bool wasCancelled = false;
 
     /// Files of any kind, and others.
     int files() const noexcept { return counts.total() + others; }

@@ -145,16 +145,18 @@ void ActivityModel::undo(const QString& id) {
             const ActivityEntry* entry = store_.entry(key);
             const UndoRecord record = entry == nullptr ? UndoRecord{} : entry->undo;
             const auto done = store_.undo(key);
-            return done ? texts::undone(*done, record) : QString();
+            return done ? std::optional(texts::undone(*done, record)) : std::nullopt;
         },
-        [this, key, id](const QString& text) {
+        [this, key, id](const std::optional<QString>& text) {
             undoing_.erase(key);
-            reports_[key] = text;
+            // Somebody else undid it or forgot it meanwhile.
+            if (!text) return reload();
+            reports_[key] = *text;
             for (Row& row : rows_) {
                 if (row.id == key) row.undone = true;
             }
             rowChanged(key);
-            emit undone(id, text);
+            emit undone(id, *text);
         });
 }
 

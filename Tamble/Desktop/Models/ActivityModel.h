@@ -56,6 +56,7 @@ class ActivityModel : public QAbstractListModel {
     Q_INVOKABLE void showInFolder(const QString& id);
     /// What an undo did, once it is over; empty before.
     Q_INVOKABLE QString reportOf(const QString& id) const;
+    Q_INVOKABLE bool isBeingUndone(const QString& id) const { return undoing_.contains(id.toStdString()); }
     Q_INVOKABLE bool isUndoneOrUndoing(const QString& id) const;
 
   signals:

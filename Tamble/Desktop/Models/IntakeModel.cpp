@@ -1,6 +1,7 @@
 #include <Tamble/Desktop/Models/IntakeModel.h>
 #include <Tamble/Desktop/Support/Background.h>
 #include <Tamble/Desktop/Support/Texts.h>
+#include <Tamble/Model/DropSummary.h>
 #include <Tamble/Model/FittingTools.h>
 #include <Tamble/Model/GoneFiles.h>
 
@@ -28,11 +29,6 @@ QString filesText(const KindCounts& all, const ToolInfo& tool, int fileCount) {
     if (tool.category == ToolCategory::pdf && fileCount == all.pdfs) counts.pdfs = fileCount;
     if (tool.category == ToolCategory::pdf && fileCount == all.images) counts.images = fileCount;
     return texts::files(counts, static_cast<std::size_t>(fileCount));
-}
-
-int othersAmong(std::size_t files, const KindCounts& counts) {
-    return static_cast<int>(files) - counts.images - counts.videos - counts.audio - counts.pdfs -
-           counts.documents;
 }
 
 }  // namespace
@@ -130,23 +126,22 @@ void IntakeModel::clear() {
 }
 
 void IntakeModel::describe() {
-    const KindCounts counts = KindCounts::of(scan_.files);
-    std::int64_t bytes = 0;
-    for (const InputFile& file : scan_.files) bytes += file.byteSize;
-    title_ = texts::kinds(counts, othersAmong(scan_.files.size(), counts));
+    scan_.totalBytes = 0;
+    for (const InputFile& file : scan_.files) scan_.totalBytes += file.byteSize;
+    const DropSummary drop = DropSummary::of(scan_);
+    title_ = texts::kinds(drop.counts, drop.others);
     QStringList places;
-    if (scan_.roots.size() == 1) places << tr("“%1”").arg(texts::name(scan_.roots.front().url.filename()));
-    if (scan_.roots.size() > 1) places << tr("%n folder(s)", nullptr, static_cast<int>(scan_.roots.size()));
-    if (scan_.looseFileCount > 0 && !scan_.roots.empty())
-        places << tr("%n single file(s)", nullptr, scan_.looseFileCount);
-    subtitle_ = places.isEmpty() ? texts::size(bytes)
-                                 : tr("%1 in %2").arg(texts::size(bytes), places.join(tr(" and ")));
+    if (drop.folders == 1) places << tr("“%1”").arg(texts::name(drop.firstFolderName));
+    if (drop.folders > 1) places << tr("%n folder(s)", nullptr, drop.folders);
+    if (drop.looseFiles > 0 && drop.folders > 0) places << tr("%n single file(s)", nullptr, drop.looseFiles);
+    const QString size = texts::size(drop.bytes);
+    subtitle_ = places.isEmpty() ? size : tr("%1 in %2").arg(size, places.join(tr(" and ")));
     notes_ = texts::notes(scan_);
 
     std::vector<ToolListModel::Entry> best, others;
     for (const auto& [tool, fileCount] : fittingTools(scan_.files)) {
         auto& list = best.size() < bestCount ? best : others;
-        list.push_back({tool, filesText(counts, *tool, fileCount)});
+        list.push_back({tool, filesText(drop.counts, *tool, fileCount)});
     }
     best_.setEntries(std::move(best));
     others_.setEntries(std::move(others));

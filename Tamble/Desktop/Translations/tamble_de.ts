@@ -224,6 +224,10 @@
         <source>Folders</source>
         <translation>Ordner</translation>
     </message>
+    <message>
+        <source>Undoing…</source>
+        <translation>Wird zurückgenommen…</translation>
+    </message>
 </context>
 <context>
     <name>DropCatcher</name>

@@ -224,6 +224,10 @@
         <source>Folders</source>
         <translation>Folders</translation>
     </message>
+    <message>
+        <source>Undoing…</source>
+        <translation>Undoing…</translation>
+    </message>
 </context>
 <context>
     <name>DropCatcher</name>

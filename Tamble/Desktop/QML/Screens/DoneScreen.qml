@@ -7,7 +7,8 @@ Scroller {
 
     property int margin: 36
 
-    readonly property bool undone: App.result.activityID && state_.count >= 0 && App.activity.isUndoneOrUndoing(App.result.activityID)
+    readonly property bool undoing: App.result.activityID && state_.count >= 0 && App.activity.isUndoneOrUndoing(App.result.activityID)
+    readonly property bool undone: undoing && state_.count >= 0 && !App.activity.isBeingUndone(App.result.activityID)
 
     contentHeight: column.height + 2 * margin
 
@@ -67,11 +68,11 @@ Scroller {
                     PushButton { visible: App.result.hasOutputs && !root.undone; big: true; text: qsTr("Use for another tool"); onClicked: App.useResults() }
                     PushButton {
                         visible: App.result.activityID
-                        enabled: !root.undone
+                        enabled: !root.undoing
                         big: true
                         kind: "quiet"
                         sign: "ui.undo"
-                        text: root.undone ? qsTr("Undone") : qsTr("Undo")
+                        text: root.undone ? qsTr("Undone") : root.undoing ? qsTr("Undoing…") : qsTr("Undo")
                         Accessible.description: qsTr("Remove the new files and put the originals back")
                         onClicked: App.activity.undo(App.result.activityID)
                     }
