@@ -21,8 +21,11 @@ void FileListModel::show(ToolSession* session) {
 
 void FileListModel::refresh() {
     beginResetModel();
+    selected_.clear();
+    anchor_ = 0;
     endResetModel();
     emit countChanged();
+    emit selectionChanged();
 }
 
 int FileListModel::rowCount(const QModelIndex& parent) const {
@@ -45,14 +48,16 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
             return kindSymbol(file);
         case branch:
             return branchOf(file);
+        case selected:
+            return selected_.contains(index.row());
         default:
             return {};
     }
 }
 
 QHash<int, QByteArray> FileListModel::roleNames() const {
-    return {{name, "name"},       {folder, "folder"}, {size, "size"},
-            {picture, "picture"}, {kind, "kind"},     {branch, "branch"}};
+    return {{name, "name"}, {folder, "folder"}, {size, "size"},        {picture, "picture"},
+            {kind, "kind"}, {branch, "branch"}, {selected, "selected"}};
 }
 
 void FileListModel::remove(const QList<int>& rows) {
@@ -72,6 +77,7 @@ void FileListModel::removeRows(const std::vector<std::size_t>& indexes) {
         beginRemoveRows({}, row, row);
         session_->remove(indexes);
         endRemoveRows();
+        setSelected({});
         emit countChanged();
     } else {
         session_->remove(indexes);
@@ -80,12 +86,47 @@ void FileListModel::removeRows(const std::vector<std::size_t>& indexes) {
     emit changed();
 }
 
+void FileListModel::setSelected(std::set<int> rows) {
+    selected_ = std::move(rows);
+    if (count() > 0) emit dataChanged(index(0), index(count() - 1), {selected});
+    emit selectionChanged();
+}
+
+void FileListModel::select(int row) {
+    anchor_ = row;
+    setSelected({row});
+}
+
+void FileListModel::toggle(int row) {
+    anchor_ = row;
+    std::set<int> rows = selected_;
+    if (rows.erase(row) == 0) rows.insert(row);
+    setSelected(std::move(rows));
+}
+
+void FileListModel::selectTo(int row) {
+    std::set<int> rows;
+    for (int each = std::min(anchor_, row); each <= std::max(anchor_, row); ++each) rows.insert(each);
+    setSelected(std::move(rows));
+}
+
+void FileListModel::selectAll() {
+    anchor_ = 0;
+    selectTo(count() - 1);
+}
+
+void FileListModel::removeSelected(int row) {
+    const QList<int> rows(selected_.begin(), selected_.end());
+    remove(rows.empty() ? QList<int>{row} : rows);
+}
+
 void FileListModel::move(int from, int to) {
     if (session_ == nullptr || from == to || from < 0 || to < 0 || from >= count() || to >= count()) return;
     // Qt names the row before which the file goes.
     if (!beginMoveRows({}, from, from, {}, to > from ? to + 1 : to)) return;
     session_->move(static_cast<std::size_t>(from), static_cast<std::size_t>(to));
     endMoveRows();
+    select(to);
     emit changed();
 }
 

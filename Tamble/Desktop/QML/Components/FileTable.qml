@@ -7,28 +7,6 @@ Surface {
     id: root
 
     readonly property FileListModel files: App.tool.files
-    property var selected: ({})
-    readonly property int selectedCount: Object.keys(selected).length
-
-    function select(row, extend) {
-        const next = extend ? Object.assign({}, selected) : {}
-        if (extend && next[row])
-            delete next[row]
-        else
-            next[row] = true
-        selected = next
-    }
-    function selectSpan(from, to) {
-        const next = {}
-        for (let row = Math.min(from, to); row <= Math.max(from, to); ++row)
-            next[row] = true
-        selected = next
-    }
-    function removeSelected() {
-        const rows = selectedCount > 0 ? Object.keys(selected).map(Number) : [list.currentIndex]
-        selected = {}
-        files.remove(rows)
-    }
 
     Item {
         id: bar
@@ -43,7 +21,7 @@ Surface {
             maximumLineCount: 2
             elide: Text.ElideRight
             quiet: true
-            text: root.selectedCount > 0 ? qsTr("%n selected", "", root.selectedCount) : App.tool.ordersFiles ? qsTr("Drag into the order you want") : qsTr("%n file(s)", "", list.count)
+            text: root.files.selectedCount > 0 ? qsTr("%n selected", "", root.files.selectedCount) : App.tool.ordersFiles ? qsTr("Drag into the order you want") : qsTr("%n file(s)", "", list.count)
         }
         Row {
             id: tools
@@ -51,12 +29,12 @@ Surface {
             anchors { right: parent.right; rightMargin: 8; verticalCenter: parent.verticalCenter }
             spacing: Theme.space2
 
-            PushButton { visible: root.selectedCount > 0; implicitHeight: 32; kind: "quiet"; sign: "ui.close"; text: qsTr("Remove"); onClicked: root.removeSelected() }
+            PushButton { visible: root.files.selectedCount > 0; implicitHeight: 32; kind: "quiet"; sign: "ui.close"; text: qsTr("Remove"); onClicked: root.files.removeSelected(list.currentIndex) }
             Chooser {
                 implicitHeight: 32
                 hint: qsTr("Order")
                 model: [qsTr("As dropped"), qsTr("By name"), qsTr("By size"), qsTr("By kind")]
-                onActivated: index => { root.selected = {}; root.files.sort(index) }
+                onActivated: index => root.files.sort(index)
             }
         }
         Divider { anchors.bottom: parent.bottom; width: parent.width }
@@ -77,28 +55,24 @@ Surface {
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Files")
 
-        property int anchor: 0
-
         Keys.onPressed: event => {
             const step = ({ [Qt.Key_Up]: -1, [Qt.Key_Down]: 1, [Qt.Key_PageUp]: -10, [Qt.Key_PageDown]: 10, [Qt.Key_Home]: -count, [Qt.Key_End]: count })[event.key]
             if (step !== undefined) {
                 const next = Math.max(0, Math.min(count - 1, currentIndex + step))
                 if (App.tool.ordersFiles && (event.modifiers & Qt.AltModifier)) {
                     root.files.move(currentIndex, next)
-                    root.select(next, false)
                 } else if (event.modifiers & Qt.ShiftModifier) {
-                    root.selectSpan(anchor, next)
+                    root.files.selectTo(next)
                 } else {
-                    anchor = next
-                    root.select(next, false)
+                    root.files.select(next)
                 }
                 currentIndex = next
                 event.accepted = true
             } else if (event.key === Qt.Key_Delete || event.key === Qt.Key_Backspace) {
-                root.removeSelected()
+                root.files.removeSelected(list.currentIndex)
                 event.accepted = true
             } else if (event.matches(StandardKey.SelectAll)) {
-                root.selectSpan(0, count - 1)
+                root.files.selectAll()
                 event.accepted = true
             }
         }
@@ -130,7 +104,7 @@ Surface {
                 sign: "ui.close"
                 signSize: 14
                 text: qsTr("Remove the folder from the list")
-                onClicked: { root.selected = {}; root.files.removeBranch(branch.section) }
+                onClicked: root.files.removeBranch(branch.section)
             }
         }
 
@@ -143,8 +117,7 @@ Surface {
             required property string size
             required property string picture
             required property string kind
-
-            readonly property bool isSelected: root.selected[index] === true
+            required property bool selected
 
             width: list.width
             height: 52
@@ -155,7 +128,7 @@ Surface {
             Rectangle {
                 anchors { fill: parent; leftMargin: 6; rightMargin: 6; topMargin: 1; bottomMargin: 1 }
                 radius: 10
-                color: row.isSelected ? Theme.tint(App.tool.category) : hover.hovered ? Theme.hover : drag.active ? Theme.surface : "transparent"
+                color: row.selected ? Theme.tint(App.tool.category) : hover.hovered ? Theme.hover : drag.active ? Theme.surface : "transparent"
                 border { width: list.activeFocus && list.currentIndex === row.index ? 2 : 0; color: Theme.focus }
             }
             Sign {
@@ -203,21 +176,21 @@ Surface {
                 sign: "ui.close"
                 signSize: 14
                 text: qsTr("Remove from the list")
-                onClicked: { root.selected = {}; root.files.remove([row.index]) }
+                onClicked: root.files.remove([row.index])
             }
 
             HoverHandler { id: hover }
             TapHandler {
                 acceptedModifiers: Qt.NoModifier
-                onTapped: { list.forceActiveFocus(); list.anchor = list.currentIndex = row.index; root.select(row.index, false) }
+                onTapped: { list.forceActiveFocus(); list.currentIndex = row.index; root.files.select(row.index) }
             }
             TapHandler {
                 acceptedModifiers: Qt.ControlModifier
-                onTapped: { list.forceActiveFocus(); list.anchor = list.currentIndex = row.index; root.select(row.index, true) }
+                onTapped: { list.forceActiveFocus(); list.currentIndex = row.index; root.files.toggle(row.index) }
             }
             TapHandler {
                 acceptedModifiers: Qt.ShiftModifier
-                onTapped: { list.forceActiveFocus(); list.currentIndex = row.index; root.selectSpan(list.anchor, row.index) }
+                onTapped: { list.forceActiveFocus(); list.currentIndex = row.index; root.files.selectTo(row.index) }
             }
             DragHandler {
                 id: drag
